@@ -1,0 +1,25 @@
+#pragma once
+
+/// The whole engine.
+
+#include "engine/core/Message.h"
+#include "engine/core/Types.h"
+#include "engine/draw/SurfManager.h"
+#include "engine/draw/Surface.h"
+#include "engine/system/DateTime.h"
+#include "engine/system/IniReadWrite.h"
+#include "engine/system/System.h"
+#include "engine/system/Timer.h"
+#include "engine/text/FontManager.h"
+#include "engine/text/LangManager.h"
+#include "engine/widgets/Button.h"
+#include "engine/widgets/GUIElement.h"
+#include "engine/widgets/ImageElement.h"
+#include "engine/widgets/ImageView.h"
+#include "engine/widgets/MemBlob.h"
+#include "engine/widgets/SliderCtrl.h"
+#include "engine/widgets/Static.h"
+#include "engine/widgets/TextElement.h"
+#include "engine/window/GroupCtrl.h"
+#include "engine/window/Screen.h"
+#include "engine/window/Window.h"

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+#include "engine/core/Types.h"
+#include "platform/Export.h"
+
+namespace korvane {
+
+bool IsEmpty(const _LQRect& rect);
+_LQRect Intersect(const _LQRect& a, const _LQRect& b);
+_LQRect Unite(const _LQRect& a, const _LQRect& b);
+bool Overlap(const _LQRect& a, const _LQRect& b);
+bool Covers(const _LQRect& outer, const _LQRect& inner);
+long long Area(const _LQRect& rect);
+
+/// A few rectangles that wait for repainting. Of fixed capacity: it never allocates. Rectangles whose union
+/// is no larger than the two together are merged, and so are the cheapest two when the places run out.
+class KORVANE_API UpdateRegion {
+  public:
+    void Add(const _LQRect& rect);
+    void Clear() { count_ = 0; }
+    bool IsEmpty() const { return count_ == 0; }
+    std::size_t Count() const { return count_; }
+    const _LQRect& operator[](std::size_t index) const { return rects_[index]; }
+
+  private:
+    static constexpr std::size_t kCapacity = 16;
+    void MergeCheapest();
+    void Remove(std::size_t index);
+
+    std::array<_LQRect, kCapacity + 1> rects_;
+    std::size_t count_ = 0;
+};
+
+}  // namespace korvane

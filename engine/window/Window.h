@@ -1,0 +1,96 @@
+#pragma once
+
+#include <string>
+
+#include "engine/window/BaseCtrl.h"
+#include "engine/window/ChildList.h"
+#include "engine/window/UpdateRegion.h"
+
+/// A dialog or screen that owns controls. `Create` puts it on top of the windows on the screen, its end takes
+/// it off.
+///
+/// The application calls `Create`, then `OnInit`. Children that were created with `new` are deleted with the
+/// window (see CLQWnd::operator new). A window without a background is transparent, to the eye and, where no
+/// control consumes them, to touches.
+class KORVANE_API CLQWindow : public CLQWnd {
+  public:
+    CLQWindow();
+    /// A copy has the background of its source and shares its controls, but is not on the screen.
+    CLQWindow(const CLQWindow& other);
+    CLQWindow& operator=(const CLQWindow& other);
+    ~CLQWindow() override;
+
+    bool Create(int x, int y, int width, int height) override;
+    void SetSize(int width, int height) override;
+    void Move(int dx, int dy) override;
+    void MoveTo(int x, int y) override;
+    void SetShow(bool show) override;
+    void LoadResource() override;
+    bool DoMessage(_LQMessage* msg) override;
+    /// Paints the background and all shown controls, as far as they lie inside the target's clip.
+    void Draw(CLQSurfHandle& target) override;
+    bool DoCommand(_LQMessage* msg) override;
+    void ChangeLanguage() override;
+
+    virtual std::wstring GetDialogName();
+    /// Hook: build the window's contents. The application calls it once after `Create`.
+    virtual bool OnInit();
+    /// Hook for a transition when the window comes (true) or goes.
+    virtual void OnTransEffect(CLQSurfHandle& target, bool enter);
+    virtual void OnBtnBackPressUp();
+
+    void AddChild(CLQBaseCtrl* child);
+    bool DelChild(CLQBaseCtrl* child, bool destroy);
+    int GetChildCount() const;
+    CLQBaseCtrl* GetChild(int index) const;
+
+    /// Moves the focus to a control of this window; null takes it away.
+    void SetFocusCtrl(CLQBaseCtrl* ctrl);
+    CLQBaseCtrl* GetFocusCtrl() const;
+    /// Hands all pointer messages to one control, until the next release has been handed to it or until
+    /// another control, or null, is named.
+    void SetRecvMsgCtrl(CLQBaseCtrl* ctrl);
+
+    /// Switches the collecting of repaint rectangles off and on. While it is off, an invalidated control is
+    /// marked but not repainted.
+    void EnableUpdateRect(bool enable);
+    void ClearUpdateRectVec();
+    /// Paints the window's background into a rectangle of the target given by its edges in screen
+    /// coordinates.
+    void FillBkgRect(CLQSurfHandle& target, int left, int top, int right, int bottom);
+
+    void SetBkgSurf(const wchar_t* file);
+    void EnableBkgColor(bool enable, _LQColor* color);
+
+    /// Has a rectangle of the screen repainted.
+    void InvalidateRect(const _LQRect& rect);
+    /// The rectangles that wait for repainting.
+    const korvane::UpdateRegion& GetUpdateRects() const;
+    /// True when the background hides everything below this rectangle.
+    bool IsOpaqueIn(const _LQRect& rect);
+
+  private:
+    friend class CLQBaseCtrl;
+
+    _LQRect ScreenRect() const;
+    void AdoptChildren();
+    void ForgetCtrl(CLQBaseCtrl* ctrl);
+    bool RoutePress(_LQMessage* msg);
+    bool RouteCaptured(_LQMessage* msg);
+    bool RouteKey(_LQMessage* msg);
+    bool MoveFocus(int direction);
+    bool PressFocused(_LQMessage* msg);
+    CLQBaseCtrl* CapturedCtrl() const;
+
+    korvane::ChildList m_children;
+    korvane::UpdateRegion m_updateRects;
+    bool m_bUpdateRect = true;
+    CLQBaseCtrl* m_pFocusCtrl = nullptr;
+    korvane::LifeWatch m_focusLife;
+    CLQBaseCtrl* m_pRecvMsgCtrl = nullptr;
+    korvane::LifeWatch m_recvMsgLife;
+    std::wstring m_strBkgFile;
+    CLQSurfHandle m_surfBkg;
+    bool m_bBkgColor = false;
+    _LQColor m_colorBkg;
+};
