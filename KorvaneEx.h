@@ -1,0 +1,10 @@
+#pragma once
+
+/// The control library and the engine under it.
+
+#include "controls/ButtonTree.h"
+#include "controls/FreqStruct.h"
+#include "controls/NumSlider.h"
+#include "engine/Korvane.h"
+#include "module/MessageLoop.h"
+#include "module/SysBeep.h"
