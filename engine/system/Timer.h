@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "engine/core/HandlerCast.h"
 #include "platform/Export.h"
 
 class CLQWnd;
@@ -25,7 +26,7 @@ class KORVANE_API CLQTimer {
     void SetTimer(int period);
     /// `handler` is a member function of the target with the parameters (void*, int), cast to this type.
     void SetCallBack(CLQWnd* target, void (CLQWnd::*handler)());
-    /// The same without a cast: `handler` may take (void*, int) or nothing.
+    /// The same without a cast.
     template <class Target>
     void SetCallBack(Target* target, void (Target::*handler)(void*, int));
 
@@ -41,5 +42,5 @@ class KORVANE_API CLQTimer {
 template <class Target>
 void CLQTimer::SetCallBack(Target* target, void (Target::*handler)(void*, int)) {
     SetCallBack(static_cast<CLQWnd*>(target),
-                reinterpret_cast<void (CLQWnd::*)()>(static_cast<void (CLQWnd::*)(void*, int)>(handler)));
+                korvane::HandlerCast<void (CLQWnd::*)()>(static_cast<void (CLQWnd::*)(void*, int)>(handler)));
 }

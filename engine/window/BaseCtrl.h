@@ -4,6 +4,7 @@
 #include <string>
 #include <type_traits>
 
+#include "engine/core/HandlerCast.h"
 #include "engine/window/CallBack.h"
 #include "engine/window/Wnd.h"
 
@@ -116,15 +117,7 @@ class KORVANE_API CLQBaseCtrl : public CLQWnd {
     bool FireEvent(int event, const korvane::EventData& data);
     void StoreCallBack(int event, const _LQCallBack& record);
     void InvalidateArea();
-
-    template <class Function>
-    static void (CLQWnd::*Erase(Function handler))() {
-        return reinterpret_cast<void (CLQWnd::*)()>(handler);
-    }
-    template <class Function>
-    static Function Restore(void (CLQWnd::*handler)()) {
-        return reinterpret_cast<Function>(handler);
-    }
+    void LeaveOwner();
 
     CLQGroupCtrl* m_pOwnerGroup = nullptr;
     std::wstring m_strName;
@@ -149,25 +142,27 @@ template <class Target>
 void CLQBaseCtrl::AddCallBack(int event, Target* target, void (Target::*handler)()) {
     static_assert(std::is_base_of<CLQWnd, Target>::value, "handlers are members of CLQWnd classes");
     using Handler = void (Target::*)();
-    StoreCallBack(event, {target,
-                          Erase(handler),
-                          [](const _LQCallBack& record, CLQBaseCtrl*, const korvane::EventData&) {
-                              (static_cast<Target*>(record.target)->*Restore<Handler>(record.handler))();
-                          },
-                          {}});
+    StoreCallBack(
+        event, {target,
+                korvane::HandlerCast<void (CLQWnd::*)()>(handler),
+                [](const _LQCallBack& record, CLQBaseCtrl*, const korvane::EventData&) {
+                    (static_cast<Target*>(record.target)->*korvane::HandlerCast<Handler>(record.handler))();
+                },
+                {}});
 }
 
 template <class Target, class Sender>
 void CLQBaseCtrl::AddCallBack(int event, Target* target, void (Target::*handler)(Sender*)) {
     static_assert(std::is_base_of<CLQWnd, Target>::value, "handlers are members of CLQWnd classes");
     using Handler = void (Target::*)(Sender*);
-    StoreCallBack(event, {target,
-                          Erase(handler),
-                          [](const _LQCallBack& record, CLQBaseCtrl* sender, const korvane::EventData&) {
-                              (static_cast<Target*>(record.target)->*Restore<Handler>(record.handler))(
-                                  static_cast<Sender*>(sender));
-                          },
-                          {}});
+    StoreCallBack(event,
+                  {target,
+                   korvane::HandlerCast<void (CLQWnd::*)()>(handler),
+                   [](const _LQCallBack& record, CLQBaseCtrl* sender, const korvane::EventData&) {
+                       (static_cast<Target*>(record.target)->*korvane::HandlerCast<Handler>(record.handler))(
+                           static_cast<Sender*>(sender));
+                   },
+                   {}});
 }
 
 template <class Target, class Sender, class Data>
@@ -176,16 +171,17 @@ void CLQBaseCtrl::AddCallBack(int event, Target* target, void (Target::*handler)
     static_assert(std::is_pointer<Data>::value || std::is_same<Data, int>::value,
                   "event data is a pointer or an index");
     using Handler = void (Target::*)(Sender*, Data);
-    StoreCallBack(event, {target,
-                          Erase(handler),
-                          [](const _LQCallBack& record, CLQBaseCtrl* sender, const korvane::EventData& data) {
-                              Data value{};
-                              if constexpr (std::is_pointer<Data>::value)
-                                  value = static_cast<Data>(data.pointer);
-                              else
-                                  value = data.index;
-                              (static_cast<Target*>(record.target)->*Restore<Handler>(record.handler))(
-                                  static_cast<Sender*>(sender), value);
-                          },
-                          {}});
+    StoreCallBack(event,
+                  {target,
+                   korvane::HandlerCast<void (CLQWnd::*)()>(handler),
+                   [](const _LQCallBack& record, CLQBaseCtrl* sender, const korvane::EventData& data) {
+                       Data value{};
+                       if constexpr (std::is_pointer<Data>::value)
+                           value = static_cast<Data>(data.pointer);
+                       else
+                           value = data.index;
+                       (static_cast<Target*>(record.target)->*korvane::HandlerCast<Handler>(record.handler))(
+                           static_cast<Sender*>(sender), value);
+                   },
+                   {}});
 }

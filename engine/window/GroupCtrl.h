@@ -7,6 +7,7 @@
 
 #include "engine/window/BaseCtrl.h"
 #include "engine/window/ChildList.h"
+#include "engine/window/ChildRouting.h"
 
 /// A control that owns child controls, which are drawn, moved and shown with it.
 ///
@@ -70,10 +71,13 @@ class KORVANE_API CLQGroupCtrl : public CLQBaseCtrl {
     friend class CLQBaseCtrl;
     friend class CLQWindow;
 
-    void AdoptChildren();
+    void AbandonChildren();
+    void InvalidateChildren();
+    void DropPresses();
     void DrawBackground(CLQSurfHandle& target);
 
     korvane::ChildList m_children;
+    korvane::Capture m_captured;
     std::map<std::wstring, CLQBaseCtrl*> m_mapNameToCtrl;
     std::vector<korvane::LifeWatch> m_vecNameLife;
     std::wstring m_strBkgFile;

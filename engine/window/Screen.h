@@ -53,6 +53,10 @@ class KORVANE_API CLQScreen {
     /// Windows from the bottom (0) to the top; null outside 0 to count - 1.
     CLQWindow* GetWindow(int index);
 
+    /// Handles a message of the screen's system window: touches, keys, commands and system-information
+    /// changes (1191 with the item in wParam) go to the windows. False when it is none of these.
+    bool HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
     korvane::ScreenCounters GetCounters();
     void ResetCounters();
 
@@ -64,11 +68,10 @@ class KORVANE_API CLQScreen {
     CLQScreen(const CLQScreen&) = delete;
     CLQScreen& operator=(const CLQScreen&) = delete;
 
-    void Add(CLQWindow* window);
     void Remove(CLQWindow* window);
     bool Contains(const CLQWindow* window) const;
     void InvalidateRect(const _LQRect& rect);
-    void RequestPaint();
+    void RequestPaint(const _LQRect& rect);
 
     struct Impl;
     std::unique_ptr<Impl> m_pImpl;

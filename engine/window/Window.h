@@ -4,6 +4,7 @@
 
 #include "engine/window/BaseCtrl.h"
 #include "engine/window/ChildList.h"
+#include "engine/window/ChildRouting.h"
 #include "engine/window/UpdateRegion.h"
 
 /// A dialog or screen that owns controls. `Create` puts it on top of the windows on the screen, its end takes
@@ -62,6 +63,9 @@ class KORVANE_API CLQWindow : public CLQWnd {
     void SetBkgSurf(const wchar_t* file);
     void EnableBkgColor(bool enable, _LQColor* color);
 
+    /// True when the address is that of a control of this window, at any depth. It is compared, not used.
+    bool HoldsCtrl(const void* ctrl) const;
+
     /// Has a rectangle of the screen repainted.
     void InvalidateRect(const _LQRect& rect);
     /// The rectangles that wait for repainting.
@@ -71,24 +75,25 @@ class KORVANE_API CLQWindow : public CLQWnd {
 
   private:
     friend class CLQBaseCtrl;
+    friend class CLQScreen;
 
     _LQRect ScreenRect() const;
-    void AdoptChildren();
+    void AbandonChildren();
     void ForgetCtrl(CLQBaseCtrl* ctrl);
-    bool RoutePress(_LQMessage* msg);
-    bool RouteCaptured(_LQMessage* msg);
-    bool RouteKey(_LQMessage* msg);
-    bool MoveFocus(int direction);
-    bool PressFocused(_LQMessage* msg);
-    CLQBaseCtrl* CapturedCtrl() const;
+    bool HasBackground() const;
+    bool RoutePointer(const _LQMessage& msg);
+    bool RouteKey(const _LQMessage& msg);
+    bool PressFocused(const _LQMessage& key);
+    bool MoveFocus(int key);
 
     korvane::ChildList m_children;
     korvane::UpdateRegion m_updateRects;
+    korvane::Capture m_captured;
+    korvane::Capture m_recvMsg;
+    bool m_bHoldsPress = false;
     bool m_bUpdateRect = true;
     CLQBaseCtrl* m_pFocusCtrl = nullptr;
     korvane::LifeWatch m_focusLife;
-    CLQBaseCtrl* m_pRecvMsgCtrl = nullptr;
-    korvane::LifeWatch m_recvMsgLife;
     std::wstring m_strBkgFile;
     CLQSurfHandle m_surfBkg;
     bool m_bBkgColor = false;

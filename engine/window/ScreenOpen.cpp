@@ -1,0 +1,90 @@
+#include <utility>
+
+#include "engine/draw/SurfManager.h"
+#include "engine/window/ScreenState.h"
+#include "engine/window/Window.h"
+
+namespace {
+
+constexpr wchar_t kScreenClass[] = L"KorvaneScreen";
+
+/// Shows again what the system has lost, beyond what is about to be repainted anyway.
+void PaintScreen(HWND hwnd, CLQScreen& screen) {
+    RECT lost;
+    const bool exposed = ::GetUpdateRect(hwnd, &lost, FALSE) != 0;
+    const std::uint64_t before = screen.GetCounters().paints;
+    screen.Paint();
+    ::ValidateRect(hwnd, nullptr);
+    if (exposed && screen.GetCounters().paints == before)
+        screen.FlipRect(lost.left, lost.top, lost.right, lost.bottom);
+}
+
+LRESULT CALLBACK ScreenProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    CLQScreen* screen = CLQScreen::GetInstance();
+    if (hwnd != screen->GetHWND())
+        return ::DefWindowProcW(hwnd, message, wParam, lParam);
+    switch (message) {
+        case WM_PAINT:
+            PaintScreen(hwnd, *screen);
+            return 0;
+        case WM_CLOSE:
+            ::PostQuitMessage(0);
+            return 0;
+        default:
+            if (screen->HandleMessage(message, wParam, lParam))
+                return 0;
+            return ::DefWindowProcW(hwnd, message, wParam, lParam);
+    }
+}
+
+bool RegisterScreenClass() {
+    static const bool registered = [] {
+        WNDCLASSW description = {};
+        description.lpfnWndProc = &ScreenProc;
+        description.lpszClassName = kScreenClass;
+        return ::RegisterClassW(&description) != 0;
+    }();
+    return registered;
+}
+
+}  // namespace
+
+bool CLQScreen::Open(const char* display, int width, int height, const wchar_t* title) {
+    if (m_pImpl->hwnd || !display || !RegisterScreenClass())
+        return false;
+    CLQSurfHandle buffer =
+        CLQSurfManager::GetInstance()->CreateSurface(width, height, eSurface_ARGB8888, true);
+    if (!buffer.GetSurface())
+        return false;
+    std::unique_ptr<korvane::Display> back = korvane::CreateDisplay(display);
+    if (!back)
+        return false;
+    const wchar_t* caption = title ? title : L"";
+    HWND hwnd = ::CreateWindowExW(0, kScreenClass, caption, WS_POPUP | WS_VISIBLE, 0, 0, width, height,
+                                  nullptr, nullptr, nullptr, nullptr);
+    if (!hwnd)
+        return false;
+    if (!back->Open(width, height, caption, hwnd)) {
+        ::DestroyWindow(hwnd);
+        return false;
+    }
+    m_pImpl->backBuffer = buffer;
+    m_pImpl->display = std::move(back);
+    m_pImpl->hwnd = hwnd;
+    InvalidateAll();
+    return true;
+}
+
+void CLQScreen::Close() {
+    if (HWND hwnd = std::exchange(m_pImpl->hwnd, nullptr)) {
+        m_pImpl->display.reset();
+        ::DestroyWindow(hwnd);
+    }
+    m_pImpl->backBuffer.Release();
+    m_pImpl->uncovered.Clear();
+    m_pImpl->pressed = nullptr;
+}
+
+bool CLQScreen::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    return korvane::RouteScreenMessage(message, wParam, lParam, m_pImpl->pressed, m_pImpl->pressedLife);
+}

@@ -1,0 +1,266 @@
+#include "engine/window/Window.h"
+
+#include "engine/draw/SurfManager.h"
+#include "engine/window/DrawShift.h"
+#include "engine/window/Screen.h"
+
+CLQWindow::CLQWindow() {
+    m_nKind = korvane::kKindWindow;
+}
+
+CLQWindow::CLQWindow(const CLQWindow& other)
+    : CLQWnd(other),
+      m_children(other.m_children),
+      m_strBkgFile(other.m_strBkgFile),
+      m_surfBkg(other.m_surfBkg),
+      m_bBkgColor(other.m_bBkgColor),
+      m_colorBkg(other.m_colorBkg) {}
+
+CLQWindow& CLQWindow::operator=(const CLQWindow& other) {
+    if (this == &other)
+        return *this;
+    CLQScreen::GetInstance()->InvalidateRect(ScreenRect());
+    CLQWnd::operator=(other);
+    AbandonChildren();
+    m_children = other.m_children;
+    m_strBkgFile = other.m_strBkgFile;
+    m_surfBkg = other.m_surfBkg;
+    m_bBkgColor = other.m_bBkgColor;
+    m_colorBkg = other.m_colorBkg;
+    InvalidateRect(ScreenRect());
+    return *this;
+}
+
+CLQWindow::~CLQWindow() {
+    CLQScreen::GetInstance()->Remove(this);
+    AbandonChildren();
+}
+
+void CLQWindow::AbandonChildren() {
+    for (std::size_t i = 0; i < m_children.Size(); ++i) {
+        CLQBaseCtrl* child = m_children.At(i);
+        if (child && child->m_pOwnerWnd == this)
+            child->SetFatherWnd(nullptr);
+    }
+    m_children.Clear();
+    m_captured = korvane::Capture();
+    m_recvMsg = korvane::Capture();
+    m_pFocusCtrl = nullptr;
+}
+
+void CLQWindow::ForgetCtrl(CLQBaseCtrl* ctrl) {
+    if (m_captured.ctrl == ctrl)
+        m_captured = korvane::Capture();
+    if (m_recvMsg.ctrl == ctrl)
+        m_recvMsg = korvane::Capture();
+    if (m_pFocusCtrl == ctrl)
+        m_pFocusCtrl = nullptr;
+}
+
+bool CLQWindow::Create(int x, int y, int width, int height) {
+    const _LQRect before = ScreenRect();
+    if (!CLQWnd::Create(x, y, width, height))
+        return false;
+    CLQScreen* screen = CLQScreen::GetInstance();
+    if (screen->Contains(this) && m_bShow)
+        screen->InvalidateRect(before);
+    screen->BringToTop(this);
+    return true;
+}
+
+void CLQWindow::SetSize(int width, int height) {
+    if (m_bShow)
+        CLQScreen::GetInstance()->InvalidateRect(ScreenRect());
+    CLQWnd::SetSize(width, height);
+    InvalidateRect(ScreenRect());
+}
+
+void CLQWindow::Move(int dx, int dy) {
+    CLQWnd::Move(dx, dy);
+}
+
+void CLQWindow::MoveTo(int x, int y) {
+    if (m_bShow)
+        CLQScreen::GetInstance()->InvalidateRect(ScreenRect());
+    CLQWnd::MoveTo(x, y);
+    InvalidateRect(ScreenRect());
+}
+
+void CLQWindow::SetShow(bool show) {
+    if (show == m_bShow)
+        return;
+    CLQWnd::SetShow(show);
+    if (show) {
+        InvalidateRect(ScreenRect());
+    } else {
+        m_captured = korvane::Capture();
+        m_recvMsg = korvane::Capture();
+        m_bHoldsPress = false;
+        CLQScreen::GetInstance()->InvalidateRect(ScreenRect());
+    }
+}
+
+void CLQWindow::LoadResource() {
+    for (std::size_t i = 0; i < m_children.Size(); ++i) {
+        if (CLQBaseCtrl* child = m_children.At(i))
+            child->LoadResource();
+    }
+}
+
+void CLQWindow::Draw(CLQSurfHandle& target) {
+    CLQSurface* surface = target.GetSurface();
+    if (!surface)
+        return;
+    const _LQRect area = korvane::Intersect(surface->GetClip(), ScreenRect());
+    if (korvane::IsEmpty(area))
+        return;
+    const korvane::DrawClip clip(*surface, area);
+    FillBkgRect(target, area.left, area.top, area.right, area.bottom);
+    korvane::DrawChildren(m_children, target, *surface);
+}
+
+bool CLQWindow::DoCommand(_LQMessage*) {
+    return false;
+}
+
+void CLQWindow::ChangeLanguage() {
+    const korvane::LifeWatch self = WatchLife();
+    for (std::size_t i = 0; self.IsAlive() && i < m_children.Size(); ++i) {
+        if (CLQBaseCtrl* child = m_children.At(i))
+            child->ChangeLanguage();
+    }
+}
+
+std::wstring CLQWindow::GetDialogName() {
+    return std::wstring();
+}
+
+bool CLQWindow::OnInit() {
+    return true;
+}
+
+void CLQWindow::OnTransEffect(CLQSurfHandle&, bool) {}
+
+void CLQWindow::OnBtnBackPressUp() {}
+
+void CLQWindow::AddChild(CLQBaseCtrl* child) {
+    if (!child || m_children.Contains(child))
+        return;
+    child->LeaveOwner();
+    m_children.Compact();
+    m_children.Add(child);
+    child->SetFatherWnd(this);
+    child->Invalidate();
+}
+
+bool CLQWindow::DelChild(CLQBaseCtrl* child, bool destroy) {
+    if (!m_children.Contains(child))
+        return false;
+    child->SetFatherWnd(nullptr);
+    return m_children.Remove(child, destroy);
+}
+
+int CLQWindow::GetChildCount() const {
+    return static_cast<int>(m_children.Size());
+}
+
+CLQBaseCtrl* CLQWindow::GetChild(int index) const {
+    return index < 0 ? nullptr : m_children.At(static_cast<std::size_t>(index));
+}
+
+bool CLQWindow::HoldsCtrl(const void* ctrl) const {
+    auto* address = static_cast<CLQBaseCtrl*>(const_cast<void*>(ctrl));
+    for (std::size_t i = 0; i < m_children.Size(); ++i) {
+        CLQBaseCtrl* child = m_children.At(i);
+        if (child && child->IsChildExist(address))
+            return true;
+    }
+    return false;
+}
+
+void CLQWindow::EnableUpdateRect(bool enable) {
+    m_bUpdateRect = enable;
+}
+
+void CLQWindow::ClearUpdateRectVec() {
+    m_updateRects.Clear();
+}
+
+bool CLQWindow::HasBackground() const {
+    return m_bBkgColor || m_surfBkg.GetSurface();
+}
+
+void CLQWindow::FillBkgRect(CLQSurfHandle& target, int left, int top, int right, int bottom) {
+    CLQSurface* surface = target.GetSurface();
+    if (!surface)
+        return;
+    _LQRect rect;
+    rect.left = left;
+    rect.right = right;
+    rect.top = top;
+    rect.bottom = bottom;
+    rect = korvane::Intersect(rect, ScreenRect());
+    if (korvane::IsEmpty(rect))
+        return;
+    const korvane::DrawClip clip(*surface, rect);
+    if (m_bBkgColor)
+        target.FillRect(rect.left, rect.top, rect.right, rect.bottom, m_colorBkg, m_colorBkg.a != 255);
+    target.BitBlt(m_surfBkg, m_nX, m_nY, m_nWidth, m_nHeight, 0, 0);
+}
+
+void CLQWindow::SetBkgSurf(const wchar_t* file) {
+    m_strBkgFile = file ? file : L"";
+    m_surfBkg.Release();
+    if (!m_strBkgFile.empty())
+        m_surfBkg = CLQSurfManager::GetInstance()->CreateSurface(m_strBkgFile.c_str(), true);
+    InvalidateRect(ScreenRect());
+}
+
+void CLQWindow::EnableBkgColor(bool enable, _LQColor* color) {
+    m_bBkgColor = enable;
+    if (color)
+        m_colorBkg = *color;
+    InvalidateRect(ScreenRect());
+}
+
+void CLQWindow::InvalidateRect(const _LQRect& rect) {
+    if (!m_bUpdateRect || !IsShow())
+        return;
+    CLQScreen* screen = CLQScreen::GetInstance();
+    if (!screen->Contains(this))
+        return;
+    const _LQRect visible = korvane::Intersect(rect, ScreenRect());
+    if (korvane::IsEmpty(visible))
+        return;
+    m_updateRects.Add(visible);
+    screen->RequestPaint(visible);
+}
+
+const korvane::UpdateRegion& CLQWindow::GetUpdateRects() const {
+    return m_updateRects;
+}
+
+bool CLQWindow::IsOpaqueIn(const _LQRect& rect) {
+    if (!IsShow() || !korvane::Covers(ScreenRect(), rect))
+        return false;
+    if (m_bBkgColor && m_colorBkg.a == 255)
+        return true;
+    const CLQSurface* background = m_surfBkg.GetSurface();
+    if (!background || !background->IsOpaque())
+        return false;
+    _LQRect picture;
+    picture.left = m_nX;
+    picture.right = m_nX + background->GetWidth();
+    picture.top = m_nY;
+    picture.bottom = m_nY + background->GetHeight();
+    return korvane::Covers(picture, rect);
+}
+
+_LQRect CLQWindow::ScreenRect() const {
+    _LQRect rect;
+    rect.left = m_nX;
+    rect.right = m_nX + m_nWidth;
+    rect.top = m_nY;
+    rect.bottom = m_nY + m_nHeight;
+    return rect;
+}
