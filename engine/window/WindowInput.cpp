@@ -5,6 +5,7 @@
 #include "engine/system/System.h"
 #include "engine/window/GroupCtrl.h"
 #include "engine/window/Window.h"
+#include "platform/coredll.h"
 
 namespace {
 
