@@ -1,0 +1,49 @@
+#include "platform/posix/display/ActiveDisplay.h"
+
+#include <string>
+
+#include "platform/posix/queue/Session.h"
+
+namespace korvane {
+namespace {
+
+std::string& FailureText() {
+    static thread_local std::string text;
+    return text;
+}
+
+}  // namespace
+
+bool ActivateDisplay(Display* display, HWND owner) {
+    const ThreadQueue& queue = CurrentQueue();
+    Session& session = TheSession();
+    const std::lock_guard<std::mutex> lock(session.mutex);
+    const Window* window = FindWindowOf(session, owner);
+    if (!window || window->queue != &queue)
+        return FailDisplay("the display's owner is not a window of this thread");
+    if (session.display && session.display != display)
+        return FailDisplay("another display is open");
+    session.display = display;
+    session.displayQueue = window->queue;
+    return true;
+}
+
+void DeactivateDisplay(Display* display) {
+    Session& session = TheSession();
+    const std::lock_guard<std::mutex> lock(session.mutex);
+    if (session.display != display)
+        return;
+    session.display = nullptr;
+    session.displayQueue = nullptr;
+}
+
+bool FailDisplay(const char* text) {
+    FailureText() = text ? text : "";
+    return false;
+}
+
+const char* DisplayFailure() {
+    return FailureText().c_str();
+}
+
+}  // namespace korvane

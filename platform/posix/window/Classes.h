@@ -1,0 +1,11 @@
+#pragma once
+
+#include "platform/posix/queue/Session.h"
+
+namespace korvane {
+
+/// The class of that name, or of that atom when the pointer is one; null when there is none. Needs the
+/// session's mutex.
+const WindowClass* FindClass(const Session& session, LPCWSTR nameOrAtom);
+
+}  // namespace korvane

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+
+#include "platform/posix/window/UpdateRect.h"
+
+namespace korvane {
+
+struct ThreadQueue;
+
+struct WindowClass {
+    std::wstring name;
+    WNDPROC procedure;
+    ATOM atom;
+};
+
+struct Window {
+    HWND handle = nullptr;
+    ThreadQueue* queue = nullptr;
+    const WindowClass* windowClass = nullptr;
+    WNDPROC procedure = nullptr;
+    std::wstring title;
+    HWND parent = nullptr;
+    DWORD style = 0;
+    LONG_PTR userData = 0;
+    bool visible = false;
+    bool ending = false;
+    LONG x = 0;
+    LONG y = 0;
+    LONG width = 0;
+    LONG height = 0;
+    UpdateRect update;
+    bool paintsBeforeQuit = false;  // its paint was due when WM_QUIT was asked for
+};
+
+}  // namespace korvane
