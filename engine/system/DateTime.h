@@ -4,17 +4,20 @@
 
 #include "platform/Export.h"
 
-/// A calendar date and time of day.
+/// A calendar date (years 1 to 9999 of the Gregorian calendar) and time of day.
 class KORVANE_API CLQDateTime {
   public:
+    /// The first second of 1970.
     CLQDateTime();
+    /// A field beyond its range becomes the nearest within: the 31st of a short month is its last day.
     CLQDateTime(int year, int month, int day, int hour, int minute, int second);
 
     /// The local time.
     static CLQDateTime now();
 
-    /// Formats the time by a pattern of HH, H (0 to 23), hh, h (1 to 12), mm, m, ss, s, tt (day half, see
-    /// CLQLangManager) and literal characters; a pair of apostrophes quotes.
+    /// Formats the time by a pattern of HH, H (0 to 23), hh, h (1 to 12), mm, m, ss, s, tt (the day half in
+    /// the current language, see CLQLangManager) and literal characters; the doubled letters give two digits.
+    /// A pair of apostrophes quotes; two in a row are an apostrophe.
     std::wstring toTimeString(const std::wstring& format) const;
 
     int year() const { return m_nYear; }
