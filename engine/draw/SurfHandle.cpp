@@ -1,0 +1,48 @@
+#include <utility>
+
+#include "engine/draw/LqiFormat.h"
+#include "engine/draw/Surface.h"
+
+CLQSurfHandle::CLQSurfHandle() = default;
+CLQSurfHandle::CLQSurfHandle(std::shared_ptr<CLQSurface> surface) : m_pSurface(std::move(surface)) {}
+CLQSurfHandle::CLQSurfHandle(const CLQSurfHandle& other) = default;
+CLQSurfHandle& CLQSurfHandle::operator=(const CLQSurfHandle& other) = default;
+CLQSurfHandle::~CLQSurfHandle() = default;
+
+int CLQSurfHandle::GetWidth() const {
+    return m_pSurface ? m_pSurface->GetWidth() : 0;
+}
+
+int CLQSurfHandle::GetHeight() const {
+    return m_pSurface ? m_pSurface->GetHeight() : 0;
+}
+
+_eSurfaceType CLQSurfHandle::GetSurfType() const {
+    return m_pSurface ? m_pSurface->GetSurfType() : eSurface_None;
+}
+
+CLQSurface* CLQSurfHandle::GetSurface() const {
+    return m_pSurface.get();
+}
+
+void CLQSurfHandle::Release() {
+    m_pSurface.reset();
+}
+
+int CLQSurfHandle::CalcStoreMemSize() const {
+    if (!m_pSurface || m_pSurface->GetWidth() == 0)
+        return 0;
+    return static_cast<int>(korvane::kLqiHeaderSize) + m_pSurface->GetPitch() * m_pSurface->GetHeight();
+}
+
+_eErrorInfo CLQSurfHandle::SaveSurface(const unsigned char* buffer, int size) {
+    const int needed = CalcStoreMemSize();
+    if (needed == 0)
+        return eError_Failed;
+    if (buffer == nullptr || size < 0)
+        return eError_InvalidParam;
+    if (size < needed)
+        return eError_BufferTooSmall;
+    korvane::WriteRawLqi(*m_pSurface, const_cast<unsigned char*>(buffer));
+    return eError_None;
+}
