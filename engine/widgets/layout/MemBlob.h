@@ -1,0 +1,83 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/Export.h"
+
+/// The controls of a layout as records: what a ".bin" layout file holds (see docs/file-formats.md).
+///
+/// A record has the kind of its control, its place in the tree and its properties. Record numbers count from 0 in
+/// tree order, a parent before its children. Whatever is loaded has been checked as a whole: a blob never holds
+/// half a file.
+class KORVANE_API CLQMemBlob {
+  public:
+    static constexpr int kMaxRecords = 4096;
+    static constexpr int kMaxDepth = 16;
+    static constexpr int kMaxProperties = 512;  ///< of one record
+    static constexpr std::size_t kMaxFileSize = 4 * 1024 * 1024;
+
+    enum class Type : std::uint16_t { Number = 1, Text = 2, Color = 3 };
+
+    int GetRecordCount() const { return static_cast<int>(m_vecRecords.size()); }
+    /// The kind of a record; -1 outside 0 to count - 1.
+    int GetKind(int index) const;
+    /// Numbers of the records directly below this one, in order.
+    std::vector<int> GetChildren(int index) const;
+    void Clear();
+
+    /// A new, blank record below another (-1: a root). Returns its number, -1 when the parent does not exist or a
+    /// bound is reached.
+    int AddRecord(int parent);
+    /// Opens the record of that number for writing: a blank one, or the next after the last, which becomes a root.
+    /// False for every other number.
+    bool BeginRecord(int index, int kind);
+
+    /// Adds a property; false when a bound is reached. The record must be there; a text's bytes in UTF-8 are
+    /// bounded to 65535.
+    bool SetNumber(int index, const std::wstring& key, int value);
+    bool SetText(int index, const std::wstring& key, const std::wstring& value);
+    /// `value` is red, green, blue, alpha from the highest byte down.
+    bool SetColor(int index, const std::wstring& key, std::uint32_t value);
+
+    /// False, leaving `value` alone, when the record has no such property of that type.
+    bool GetNumber(int index, const std::wstring& key, int& value) const;
+    bool GetText(int index, const std::wstring& key, std::wstring& value) const;
+    bool GetColor(int index, const std::wstring& key, std::uint32_t& value) const;
+
+    /// The contents of a layout file; empty when they would be larger than kMaxFileSize.
+    std::vector<unsigned char> ToBytes() const;
+    /// Takes such contents over. False, leaving the blob as it is, when they are damaged in any way.
+    bool FromBytes(const unsigned char* bytes, std::size_t size);
+
+    /// Reads a file; false, leaving the blob as it is, when it is missing or damaged.
+    bool LoadFile(const wchar_t* file);
+    /// Replaces the file in one step.
+    bool SaveFile(const wchar_t* file) const;
+
+  private:
+    struct Property {
+        std::uint16_t key = 0;  ///< number of a string
+        Type type = Type::Number;
+        std::uint32_t value = 0;  ///< the number, the colour, or the number of a string
+    };
+    struct Record {
+        int kind = 0;
+        int parent = -1;
+        int depth = 1;
+        bool written = false;
+        std::vector<Property> properties;
+    };
+
+    bool HasRecord(int index) const { return index >= 0 && index < GetRecordCount(); }
+    int Intern(const std::wstring& text);
+    bool Add(int index, const std::wstring& key, Type type, std::uint32_t value);
+    const Property* Find(int index, const std::wstring& key, Type type) const;
+
+    std::vector<Record> m_vecRecords;
+    std::vector<std::wstring> m_vecStrings;
+    std::map<std::wstring, int> m_mapStringToNumber;
+};
