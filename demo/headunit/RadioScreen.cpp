@@ -1,0 +1,152 @@
+#include "demo/headunit/RadioScreen.h"
+
+namespace korvane::demo {
+
+namespace {
+
+constexpr wchar_t kRestHint[] = L"Swipe the wheel to seek";
+constexpr int kClockPeriodMs = 5000;
+
+_LQColor Grey() {
+    return {159, 180, 208, 255};
+}
+
+/// A line of text inside a rectangle.
+void CreateLabel(CLQStatic& label, const _LQRect& place, int size, int style, _LQColor color) {
+    label.Create(place.left, place.top, place.right - place.left, place.bottom - place.top);
+    label.SetFontSize(size, size);
+    label.SetTextStyle(style);
+    label.SetTextColor(color);
+}
+
+}  // namespace
+
+bool RadioScreen::OnInit() {
+    SetBkgSurf(L"RadioBkg.lqi");
+    CreateStrip();
+    CreateWheel();
+    CreateBandButton();
+    CreateBandSlider();
+    CreateHint();
+    ShowBand();
+    return true;
+}
+
+void RadioScreen::CreateStrip() {
+    CreateLabel(title_, {28, 400, 0, 52}, 28, eText_Left | eText_VCenter, {255, 255, 255, 255});
+    title_.SetText(L"Radio");
+    AddChild(&title_);
+
+    CreateLabel(clock_, {600, 772, 0, 52}, 28, eText_Right | eText_VCenter, {255, 255, 255, 255});
+    AddChild(&clock_);
+    OnClock(nullptr, 0);
+    clockTimer_.SetTimer(kClockPeriodMs);
+    clockTimer_.SetCallBack(this, &RadioScreen::OnClock);
+    clockTimer_.StartTimer();
+}
+
+void RadioScreen::CreateWheel() {
+    wheel_.Create(248, 100, 312, 248);
+    wheel_.SetFont(CLQFontManager::GetInstance()->GetDefaultFont());
+    wheel_.SetFontSize(70, 70);
+    wheel_.SetSeekUpGnd(L"SeekUp.lqi");
+    wheel_.SetSeekDownGnd(L"SeekDown.lqi");
+    // The three callbacks share one context.
+    wheel_.SetMoveUpCallBack(
+        [](void* screen, void*) { static_cast<RadioScreen*>(screen)->Seek(L"Seeking up, touch to stop"); },
+        this);
+    wheel_.SetMoveDownCallBack(
+        [](void* screen, void*) { static_cast<RadioScreen*>(screen)->Seek(L"Seeking down, touch to stop"); },
+        this);
+    wheel_.SetMoveStopCallBack([](void* screen, void*) { static_cast<RadioScreen*>(screen)->StopSeeking(); },
+                               this);
+    wheel_.AddCallBack(kEventValueChanged, this, &RadioScreen::OnWheelStep);
+    AddChild(&wheel_);
+}
+
+void RadioScreen::CreateBandButton() {
+    bandButton_.Create(44, 172, 136, 104);
+    bandButton_.SetImagePath(0, eImage_Normal, L"BandNormal.lqi");
+    bandButton_.SetImagePath(0, eImage_Pressed, L"BandPressed.lqi");
+    bandButton_.SetImagePath(0, eImage_Focus, L"BandFocus.lqi");
+    bandButton_.SetImagePath(0, eImage_Disabled, L"BandDisabled.lqi");
+    // The button owns its elements.
+    auto* caption = new CLQTextElement;
+    caption->SetFontSize(44, 44);
+    bandButton_.AddGUIElement(caption);
+    bandButton_.AddCallBack(kEventReleased, this, &RadioScreen::OnBandButton);
+    AddChild(&bandButton_);
+}
+
+void RadioScreen::CreateBandSlider() {
+    bandSlider_.Create(120, 390, 560, 36);
+    bandSlider_.SetBkgSurf(L"BandTrack.lqi");
+    bandSlider_.SetFillSurf(L"BandFill.lqi");
+    bandSlider_.SetThumbSurf(L"BandThumb.lqi");
+    bandSlider_.SetThumbPressedSurf(L"BandThumbPressed.lqi");
+    bandSlider_.AddCallBack(kEventValueChanged, this, &RadioScreen::OnBandSlider);
+    AddChild(&bandSlider_);
+
+    CreateLabel(lowest_, {20, 112, 390, 426}, 22, eText_Right | eText_VCenter, Grey());
+    CreateLabel(highest_, {688, 780, 390, 426}, 22, eText_Left | eText_VCenter, Grey());
+    AddChild(&lowest_);
+    AddChild(&highest_);
+}
+
+void RadioScreen::CreateHint() {
+    CreateLabel(hint_, {200, 600, 430, 466}, 22, eText_HCenter | eText_VCenter, Grey());
+    hint_.SetText(kRestHint);
+    AddChild(&hint_);
+}
+
+void RadioScreen::ShowBand() {
+    const Band& band = CurrentBand();
+    bandButton_.SetText(band.name);
+    lowest_.SetText(band.Text(band.bounds.minimum).c_str());
+    highest_.SetText(band.Text(band.bounds.maximum).c_str());
+    bandSlider_.SetRange(0, band.StepCount());
+    bandSlider_.SetValue(band.StepOf(Frequency()));
+    wheel_.SetBoundScalFreqID(band.bounds);
+    wheel_.SetVaule(Frequency());
+}
+
+void RadioScreen::Tune(float frequency) {
+    const Band& band = CurrentBand();
+    const int step = band.StepOf(frequency);
+    // Onto the band's grid: a long way of small steps adds up small errors.
+    Frequency() = band.FrequencyOf(step);
+    bandSlider_.SetValue(step);
+}
+
+void RadioScreen::Seek(const wchar_t* hint) {
+    hint_.SetText(hint);
+    wheel_.StartMove();
+}
+
+void RadioScreen::StopSeeking() {
+    wheel_.MoveStop();
+    // Settles the rows, which stopped in the middle of a step, on the last frequency that was reached.
+    wheel_.SetVaule(Frequency());
+    hint_.SetText(kRestHint);
+}
+
+void RadioScreen::OnBandButton(CLQButton*) {
+    StopSeeking();
+    current_ = (current_ + 1) % stations_.size();
+    ShowBand();
+}
+
+void RadioScreen::OnWheelStep(CLQNumSlider*, float* frequency) {
+    Tune(*frequency);
+}
+
+void RadioScreen::OnBandSlider(CLQSliderCtrl*, int* step) {
+    Tune(CurrentBand().FrequencyOf(*step));
+    StopSeeking();
+}
+
+void RadioScreen::OnClock(void*, int) {
+    clock_.SetText(CLQDateTime::now().toTimeString(L"HH:mm").c_str());
+}
+
+}  // namespace korvane::demo
