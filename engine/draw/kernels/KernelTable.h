@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "engine/draw/kernels/Kernels.h"
+
+namespace korvane::kernels {
+
+struct InverseMap;
+
+/// One target's kernels. Chosen once per process, so that a call costs one indirect jump.
+struct KernelTable {
+    void (*overBlock)(Pixel*, std::ptrdiff_t, const Pixel*, std::ptrdiff_t, int, int);
+    void (*overRuns)(Pixel*, std::ptrdiff_t, const Pixel*, std::ptrdiff_t, const RunTable&, int, int, int,
+                     int);
+    void (*fillBlock)(Pixel*, std::ptrdiff_t, Pixel, int, int);
+    void (*fillOverBlock)(Pixel*, std::ptrdiff_t, Pixel, int, int);
+    void (*maskOverBlock)(Pixel*, std::ptrdiff_t, const std::uint8_t*, std::ptrdiff_t, Pixel, int, int);
+    void (*stretchCopy)(Pixel*, std::ptrdiff_t, const Scaling&, const Box&);
+    void (*stretchOver)(Pixel*, std::ptrdiff_t, const Scaling&, const Box&);
+    void (*rotateOver)(Pixel*, std::ptrdiff_t, const Box&, const Rotation&, const InverseMap&);
+};
+
+/// Picks the table of the best target that is allowed.
+void ChooseTable();
+
+}  // namespace korvane::kernels

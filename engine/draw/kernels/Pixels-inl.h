@@ -1,0 +1,311 @@
+// Vector arithmetic on pixels and the way along a row of any length. Compiled once per target.
+#if defined(KORVANE_KERNELS_PIXELS_INL) == defined(HWY_TARGET_TOGGLE)
+#ifdef KORVANE_KERNELS_PIXELS_INL
+#undef KORVANE_KERNELS_PIXELS_INL
+#else
+#define KORVANE_KERNELS_PIXELS_INL
+#endif
+
+#include <cstddef>
+#include <cstdint>
+#include <hwy/highway.h>
+
+#include "engine/draw/kernels/Kernels.h"
+#include "engine/draw/kernels/PlainPixel.h"
+
+// Targets without real vectors take the plain loops: emulated ones would only be slower.
+#undef KORVANE_PLAIN
+#if HWY_TARGET == HWY_SCALAR || HWY_TARGET == HWY_EMU128
+#define KORVANE_PLAIN 1
+#else
+#define KORVANE_PLAIN 0
+#endif
+
+// Masked loads and stores of any lane that cost no more than whole ones.
+#undef KORVANE_MASKED
+#define KORVANE_MASKED (HWY_TARGET == HWY_AVX3)
+
+HWY_BEFORE_NAMESPACE();
+namespace korvane::kernels::HWY_NAMESPACE {
+
+namespace hn = hwy::HWY_NAMESPACE;
+
+#if !KORVANE_PLAIN
+
+using Lanes = hn::ScalableTag<Pixel>;
+template <class D>
+using Pixels = hn::Vec<D>;
+
+constexpr std::size_t kLanes = hn::MaxLanes(Lanes());
+
+/// Moves all lanes.
+struct WholeAccess {
+    template <class D>
+    HWY_INLINE Pixels<D> Load(D d, const Pixel* from) const {
+        return hn::LoadU(d, from);
+    }
+    template <class D>
+    HWY_INLINE Pixels<D> LoadMask(D d, const std::uint8_t* from) const {
+        return hn::PromoteTo(d, hn::LoadU(hn::Rebind<std::uint8_t, D>(), from));
+    }
+    template <class D>
+    HWY_INLINE void Store(Pixels<D> pixels, D d, Pixel* to) const {
+        hn::StoreU(pixels, d, to);
+    }
+};
+
+#if KORVANE_MASKED
+/// Moves the first lanes; the others read as 0 and touch no memory.
+class FirstAccess {
+  public:
+    explicit FirstAccess(std::size_t count) : count_(count) {}
+
+    template <class D>
+    HWY_INLINE Pixels<D> Load(D d, const Pixel* from) const {
+        return hn::MaskedLoad(hn::FirstN(d, count_), d, from);
+    }
+    template <class D>
+    HWY_INLINE Pixels<D> LoadMask(D d, const std::uint8_t* from) const {
+        const hn::Rebind<std::uint8_t, D> bytes;
+        return hn::PromoteTo(d, hn::MaskedLoad(hn::FirstN(bytes, count_), bytes, from));
+    }
+    template <class D>
+    HWY_INLINE void Store(Pixels<D> pixels, D d, Pixel* to) const {
+        hn::BlendedStore(pixels, hn::FirstN(d, count_), d, to);
+    }
+
+  private:
+    std::size_t count_;
+};
+#endif
+
+/// Calls step(tag, access, index) for the rest of a row that is shorter than a vector.
+template <class Step>
+HWY_INLINE void ForRest(const Step& step, std::size_t index, std::size_t count) {
+#if KORVANE_MASKED
+    if (index < count) {
+        step(Lanes(), FirstAccess(count - index), index);
+    }
+#else
+    if (kLanes > 4 && count - index >= 4) {
+        step(hn::CappedTag<Pixel, 4>(), WholeAccess(), index);
+        index += 4;
+    }
+    if (count - index >= 2) {
+        step(hn::CappedTag<Pixel, 2>(), WholeAccess(), index);
+        index += 2;
+    }
+    if (index < count) {
+        step(hn::CappedTag<Pixel, 1>(), WholeAccess(), index);
+    }
+#endif
+}
+
+/// Calls step(tag, access, index) for all pixels of a row, a vector at a time.
+template <class Step>
+HWY_INLINE void ForRow(const Step& step, std::size_t count) {
+    std::size_t index = 0;
+    for (; index + kLanes <= count; index += kLanes) {
+        step(Lanes(), WholeAccess(), index);
+    }
+    ForRest(step, index, count);
+}
+
+/// 16-bit lanes hold x in 0..65407; gives Div255(x).
+template <class D16>
+HWY_INLINE hn::Vec<D16> Div255Lanes(D16 d16, hn::Vec<D16> x) {
+    // (t + (t >> 8)) >> 8 is (t * 257) >> 16.
+    return hn::MulHigh(hn::Add(x, hn::Set(d16, 128)), hn::Set(d16, 257));
+}
+
+/// The byte at `kByte` of every pixel in both 16-bit halves of its lane.
+template <int kByte, class D>
+HWY_INLINE Pixels<D> SpreadByte(D d, Pixels<D> pixels) {
+    const hn::Repartition<std::uint8_t, D> d8;
+    constexpr std::uint8_t kNone = 0x80;
+    alignas(16) static constexpr std::uint8_t kPlaces[16] = {
+        kByte,     kNone, kByte,     kNone, kByte + 4,  kNone, kByte + 4,  kNone,
+        kByte + 8, kNone, kByte + 8, kNone, kByte + 12, kNone, kByte + 12, kNone};
+    return hn::BitCast(d, hn::TableLookupBytesOr0(hn::BitCast(d8, pixels), hn::LoadDup128(d8, kPlaces)));
+}
+
+template <class D>
+HWY_INLINE Pixels<D> LowPairs(D d, Pixels<D> pixels) {
+    return hn::And(pixels, hn::Set(d, plain::kPairs));
+}
+
+template <class D>
+HWY_INLINE Pixels<D> HighPairs(D d, Pixels<D> pixels) {
+    const hn::Repartition<std::uint16_t, D> d16;
+    return hn::BitCast(d, hn::ShiftRight<8>(hn::BitCast(d16, pixels)));
+}
+
+/// target * factor / 255; `factor` holds 0..255 in both halves of each lane.
+template <class D>
+HWY_INLINE Pixels<D> Scale(D d, Pixels<D> target, Pixels<D> factor) {
+    const hn::Repartition<std::uint16_t, D> d16;
+    const auto by = hn::BitCast(d16, factor);
+    const auto low = Div255Lanes(d16, hn::Mul(hn::BitCast(d16, LowPairs(d, target)), by));
+    const auto high = Div255Lanes(d16, hn::Mul(hn::BitCast(d16, HighPairs(d, target)), by));
+    return hn::BitCast(d, hn::Or(low, hn::ShiftLeft<8>(high)));
+}
+
+template <class D>
+HWY_INLINE Pixels<D> AddPixels(D d, Pixels<D> a, Pixels<D> b) {
+    const hn::Repartition<std::uint8_t, D> d8;
+    return hn::BitCast(d, hn::SaturatedAdd(hn::BitCast(d8, a), hn::BitCast(d8, b)));
+}
+
+template <class D>
+HWY_INLINE Pixels<D> Over(D d, Pixels<D> source, Pixels<D> target) {
+    const auto inverse = hn::Xor(SpreadByte<3>(d, source), hn::Set(d, plain::kPairs));
+    return AddPixels(d, source, Scale(d, target, inverse));
+}
+
+/// Lerp before it is put together: the low and the high channels of each pixel as 16-bit lanes.
+template <class D>
+struct Halves {
+    hn::Vec<hn::Repartition<std::uint16_t, D>> low;
+    hn::Vec<hn::Repartition<std::uint16_t, D>> high;
+};
+
+template <class D>
+HWY_INLINE Halves<D> Split(D d, Pixels<D> pixels) {
+    const hn::Repartition<std::uint16_t, D> d16;
+    return {hn::BitCast(d16, LowPairs(d, pixels)), hn::BitCast(d16, HighPairs(d, pixels))};
+}
+
+/// a * 256 + (b - a) * weight + 128, which wraps on the way and fits in the end.
+template <class D16>
+HWY_INLINE hn::Vec<D16> LerpLanes(D16 d16, hn::Vec<D16> a, hn::Vec<D16> b, hn::Vec<D16> weight) {
+    const auto base = hn::Add(hn::ShiftLeft<8>(a), hn::Set(d16, 128));
+    return hn::Add(base, hn::Mul(hn::Sub(b, a), weight));
+}
+
+template <class D>
+HWY_INLINE Halves<D> LerpHalves(D d, const Halves<D>& a, const Halves<D>& b, Pixels<D> weight) {
+    const hn::Repartition<std::uint16_t, D> d16;
+    const auto by = hn::BitCast(d16, weight);
+    return {hn::ShiftRight<8>(LerpLanes(d16, a.low, b.low, by)),
+            hn::ShiftRight<8>(LerpLanes(d16, a.high, b.high, by))};
+}
+
+/// As LerpHalves, put together into pixels.
+template <class D>
+HWY_INLINE Pixels<D> LerpPixels(D d, const Halves<D>& a, const Halves<D>& b, Pixels<D> weight) {
+    const hn::Repartition<std::uint16_t, D> d16;
+    const auto by = hn::BitCast(d16, weight);
+    const auto low = hn::ShiftRight<8>(LerpLanes(d16, a.low, b.low, by));
+    const auto high = LerpLanes(d16, a.high, b.high, by);
+    return hn::OrAnd(hn::BitCast(d, low), hn::BitCast(d, high), hn::Set(d, ~plain::kPairs));
+}
+
+/// Two neighbouring pixels each for as many places as D has lanes.
+template <class D>
+struct Neighbours {
+    Pixels<D> left;
+    Pixels<D> right;
+};
+
+/// left[i] = base[offsets[i]], right[i] = base[offsets[i] + 1].
+template <class D>
+HWY_INLINE Neighbours<D> LoadNeighbours(D d, const Pixel* base, const std::int32_t* offsets) {
+    if constexpr (hn::MaxLanes(D()) > 4) {
+        const hn::Half<D> half;
+        const auto low = LoadNeighbours(half, base, offsets);
+        const auto high = LoadNeighbours(half, base, offsets + hn::MaxLanes(half));
+        return {hn::Combine(d, high.left, low.left), hn::Combine(d, high.right, low.right)};
+    } else {
+        const hn::CappedTag<Pixel, 2> pair;
+        const hn::Repartition<std::uint64_t, D> d64;
+        const auto even =
+            hn::Combine(d, hn::LoadU(pair, base + offsets[2]), hn::LoadU(pair, base + offsets[0]));
+        const auto odd =
+            hn::Combine(d, hn::LoadU(pair, base + offsets[3]), hn::LoadU(pair, base + offsets[1]));
+        const auto first = hn::BitCast(d64, hn::InterleaveLower(d, even, odd));
+        const auto second = hn::BitCast(d64, hn::InterleaveUpper(d, even, odd));
+        return {hn::BitCast(d, hn::InterleaveLower(d64, first, second)),
+                hn::BitCast(d, hn::InterleaveUpper(d64, first, second))};
+    }
+}
+
+struct CopyStep {
+    Pixel* target;
+    const Pixel* source;
+    template <class D, class Access>
+    HWY_INLINE void operator()(D d, const Access& access, std::size_t i) const {
+        access.Store(access.Load(d, source + i), d, target + i);
+    }
+};
+
+/// Over without a look at what the pixels are.
+struct BlendStep {
+    Pixel* target;
+    const Pixel* source;
+    template <class D, class Access>
+    HWY_INLINE void operator()(D d, const Access& access, std::size_t i) const {
+        access.Store(Over(d, access.Load(d, source + i), access.Load(d, target + i)), d, target + i);
+    }
+};
+
+/// Over that leaves the target alone under transparent vectors and stores opaque ones.
+struct OverStep {
+    Pixel* target;
+    const Pixel* source;
+    template <class D, class Access>
+    HWY_INLINE void operator()(D d, const Access& access, std::size_t i) const {
+        const auto pixels = access.Load(d, source + i);
+        if (hn::AllTrue(d, hn::Eq(pixels, hn::Zero(d)))) {
+            return;
+        }
+        const auto alpha = hn::Set(d, 0xFF000000U);
+        if (hn::AllTrue(d, hn::Eq(hn::And(pixels, alpha), alpha))) {
+            access.Store(pixels, d, target + i);
+            return;
+        }
+        access.Store(Over(d, pixels, access.Load(d, target + i)), d, target + i);
+    }
+};
+
+HWY_INLINE void CopySpan(Pixel* target, const Pixel* source, std::size_t count) {
+    ForRow(CopyStep{target, source}, count);
+}
+
+HWY_INLINE void BlendSpan(Pixel* target, const Pixel* source, std::size_t count) {
+    ForRow(BlendStep{target, source}, count);
+}
+
+HWY_INLINE void OverSpan(Pixel* target, const Pixel* source, std::size_t count) {
+    ForRow(OverStep{target, source}, count);
+}
+
+#else  // KORVANE_PLAIN
+
+HWY_INLINE void CopySpan(Pixel* target, const Pixel* source, std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) {
+        target[i] = source[i];
+    }
+}
+
+HWY_INLINE void BlendSpan(Pixel* target, const Pixel* source, std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) {
+        target[i] = plain::Over(source[i], target[i]);
+    }
+}
+
+HWY_INLINE void OverSpan(Pixel* target, const Pixel* source, std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) {
+        if (source[i] >= 0xFF000000U) {
+            target[i] = source[i];
+        } else if (source[i] != 0) {
+            target[i] = plain::Over(source[i], target[i]);
+        }
+    }
+}
+
+#endif  // KORVANE_PLAIN
+
+}  // namespace korvane::kernels::HWY_NAMESPACE
+HWY_AFTER_NAMESPACE();
+
+#endif  // include guard
