@@ -20,9 +20,8 @@ endif()
 
 add_library(korvane_options INTERFACE)
 target_include_directories(korvane_options INTERFACE "${PROJECT_SOURCE_DIR}")
-# Event and timer handlers are registered under one member function type, which takes a cast.
 target_compile_options(korvane_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
-  -Woverloaded-virtual -Wno-cast-function-type)
+  -Woverloaded-virtual)
 if(KORVANE_WARNINGS_AS_ERRORS)
   target_compile_options(korvane_options INTERFACE -Werror)
 endif()
