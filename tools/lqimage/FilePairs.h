@@ -1,0 +1,23 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace korvane::tools {
+
+/// A file to read and the file to make of it.
+struct FilePair {
+    std::filesystem::path from;
+    std::filesystem::path to;
+};
+
+/// What a conversion of `from` to `to` works on. A file gives the one pair. A folder gives all files in it
+/// and below it whose names end in `fromExtension` (in any case), in the order of their names, each with its
+/// place below `to`, whose folders are made, and with `toExtension` in place of its own. On failure `error`
+/// names the file or folder and says what is wrong.
+bool ListFilePairs(const std::filesystem::path& from, const std::filesystem::path& to,
+                   const std::string& fromExtension, const std::string& toExtension,
+                   std::vector<FilePair>& pairs, std::string& error);
+
+}  // namespace korvane::tools
