@@ -10,9 +10,9 @@ class CLQTextElement;
 
 /// A push button: a stack of elements, drawn in their order, of which the first is a picture.
 ///
-/// It shows its disabled look while it is disabled, its pressed look while it is held, its focus look while it has
-/// the focus in cursor mode, and its normal look otherwise. It fires 514 at the release that ends a press, wherever
-/// the pointer is by then. A copy has copies of the elements.
+/// It shows its disabled look while it is disabled, its pressed look while it is held, its focus look while
+/// it has the focus in cursor mode, and its normal look otherwise. It fires 514 at the release that ends a
+/// press, wherever the pointer is by then. A copy has copies of the elements.
 class KORVANE_API CLQButton : public CLQBaseCtrl {
   public:
     static constexpr int kMaxElements = 32;
@@ -33,14 +33,16 @@ class KORVANE_API CLQButton : public CLQBaseCtrl {
     bool SaveCtrlToIni(CLQIniReadWrite& ini, const wchar_t* section) override;
     bool SaveCtrlToBin(CLQMemBlob& blob, int index) override;
 
-    /// Sets the image of one state of the picture at that place; an empty name removes it. False, changing nothing,
-    /// when there is no picture at that place, the state is none or the name is null.
+    /// Sets the image of one state of the picture at that place; an empty name removes it. False, changing
+    /// nothing, when there is no picture at that place, the state is none or the name is null.
     bool SetImagePath(int element, _eImageType state, const wchar_t* file);
 
-    /// Puts an element on top of the others. The button owns it from then on. False, and the element stays the
-    /// caller's, when it is null, belongs to another control or already to this one, or there are kMaxElements.
+    /// Puts an element on top of the others. The button owns it from then on. False, and the element stays
+    /// the caller's, when it is null, belongs to another control or already to this one, or there are
+    /// kMaxElements.
     bool AddGUIElement(CLQGUIElement* element);
-    /// Elements in drawing order; null outside 0 to count - 1. Element 0 is the picture that a new button has.
+    /// Elements in drawing order; null outside 0 to count - 1. Element 0 is the picture that a new button
+    /// has.
     CLQGUIElement* GetGUIElement(int index) const;
     int GetGUIElementCount() const;
 

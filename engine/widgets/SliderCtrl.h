@@ -5,10 +5,11 @@
 
 /// A linear slider, horizontal or, running downwards, vertical.
 ///
-/// The images start at the left and top inset. Position 0 of the track lies `track offset` pixels further along
-/// the slider, and the track ends as far before the far edge; the thumb moves between the two ends with its whole
-/// length. A press inside brings the thumb's middle under the finger, which it then follows, also outside, until
-/// the release. Each change of the value by touch fires 29706 with a pointer to the value (int).
+/// The images start at the left and top inset. Position 0 of the track lies `track offset` pixels further
+/// along the slider, and the track ends as far before the far edge; the thumb moves between the two ends with
+/// its whole length. A press inside brings the thumb's middle under the finger, which it then follows, also
+/// outside, until the release. Each change of the value by touch fires 29706 with a pointer to the value
+/// (int).
 class KORVANE_API CLQSliderCtrl : public CLQBaseCtrl {
   public:
     CLQSliderCtrl();
@@ -24,8 +25,8 @@ class KORVANE_API CLQSliderCtrl : public CLQBaseCtrl {
     bool SaveCtrlToIni(CLQIniReadWrite& ini, const wchar_t* section) override;
     bool SaveCtrlToBin(CLQMemBlob& blob, int index) override;
 
-    /// Image files; an empty or null name removes the image. The fill shows from the track's start to the thumb's
-    /// middle. Without a pressed thumb the thumb also shows while it is held.
+    /// Image files; an empty or null name removes the image. The fill shows from the track's start to the
+    /// thumb's middle. Without a pressed thumb the thumb also shows while it is held.
     void SetBkgSurf(const wchar_t* file);
     void SetFillSurf(const wchar_t* file);
     void SetThumbSurf(const wchar_t* file);
@@ -46,8 +47,8 @@ class KORVANE_API CLQSliderCtrl : public CLQBaseCtrl {
     void SetVertical(bool vertical);
 
   protected:
-    /// Pixels from position 0 of the track to the thumb for a value, which is clamped into the range. 0 when the
-    /// range is empty or the thumb fills the track.
+    /// Pixels from position 0 of the track to the thumb for a value, which is clamped into the range. 0 when
+    /// the range is empty or the thumb fills the track.
     int CalcPosFromValue(int value);
     /// The same for the current value.
     int GetThumbPos();

@@ -11,14 +11,14 @@
 /// A label: one line of text over an optional background image. White, top left, 20 pixels high and at rest
 /// unless told otherwise.
 ///
-/// The text scrolls while text scrolling is enabled, its scroll type is not eScroll_None, it is not empty and, if
-/// scrolling of too-long text is enabled as well, it is wider than the label. So with both enabled a text that
-/// fits rests, and without text scrolling nothing moves, whatever the other switch says.
+/// The text scrolls while text scrolling is enabled, its scroll type is not eScroll_None, it is not empty
+/// and, if scrolling of too-long text is enabled as well, it is wider than the label. So with both enabled a
+/// text that fits rests, and without text scrolling nothing moves, whatever the other switch says.
 ///
-/// In one pass the text leaves at one edge, comes in again at the other and ends where it began. After as many
-/// passes as the scroll number says it rests there, until the text, its font or a scroll setting changes or text
-/// scrolling is switched on anew; a label that is hidden meanwhile goes on when it is shown again. Only a
-/// label that is on a shown window and moves has its timer running.
+/// In one pass the text leaves at one edge, comes in again at the other and ends where it began. After as
+/// many passes as the scroll number says it rests there, until the text, its font or a scroll setting changes
+/// or text scrolling is switched on anew; a label that is hidden meanwhile goes on when it is shown again.
+/// Only a label that is on a shown window and moves has its timer running.
 class KORVANE_API CLQStatic : public CLQBaseCtrl {
   public:
     CLQStatic();
@@ -29,8 +29,8 @@ class KORVANE_API CLQStatic : public CLQBaseCtrl {
 
     void Draw(CLQSurfHandle& target) override;
     void ChangeLanguage() override;
-    /// Takes the text from the language table, at once and whenever the language changes. 0 leaves the text as it
-    /// is and literal from then on.
+    /// Takes the text from the language table, at once and whenever the language changes. 0 leaves the text
+    /// as it is and literal from then on.
     void SetLangID(int id) override;
     CLQBaseCtrl* Clone() override;
     bool LoadCtrlFromIni(CLQIniReadWrite& ini, const wchar_t* section) override;
@@ -42,7 +42,8 @@ class KORVANE_API CLQStatic : public CLQBaseCtrl {
     /// replaces the text.
     void SetText(const wchar_t* text);
     std::wstring& GetText();
-    /// The background image, drawn at the top-left corner; an empty or null name or an empty handle removes it.
+    /// The background image, drawn at the top-left corner; an empty or null name or an empty handle removes
+    /// it.
     void SetBkgSurf(const wchar_t* file);
     void SetBkgSurf(CLQSurfHandle& image);
 

@@ -13,6 +13,10 @@ class CLQIniReadWrite;
 class CLQMemBlob;
 class CLQWindow;
 
+namespace korvane {
+class LayoutArchive;
+}
+
 /// A control. It lives in a window or in a group; its position is in the coordinates of its window, also
 /// inside a group.
 ///
@@ -104,6 +108,9 @@ class KORVANE_API CLQBaseCtrl : public CLQWnd {
     bool FireEvent(int event, int index) {
         return FireEvent(event, korvane::EventData{korvane::EventData::Kind::Index, nullptr, index});
     }
+
+    /// Reads or writes what a layout keeps of the control.
+    void ExchangeLayout(korvane::LayoutArchive& archive);
 
     int m_nPress = 0;                  ///< 1 while the control holds a press that began inside it
     CLQWindow* m_pOwnerWnd = nullptr;  ///< borrowed; null while the control is in no window

@@ -67,10 +67,23 @@ class KORVANE_API CLQGroupCtrl : public CLQBaseCtrl {
     /// Children in drawing order; null outside 0 to count - 1.
     CLQBaseCtrl* GetChild(int index) const;
 
+  protected:
+    void ExchangeLayout(korvane::LayoutArchive& archive);
+
   private:
     friend class CLQBaseCtrl;
     friend class CLQWindow;
 
+    struct NamedCtrl {
+        CLQBaseCtrl* ctrl = nullptr;
+        korvane::LifeWatch life;
+    };
+
+    bool IsLayoutKind(int kind) const;
+    void DeleteChildren();
+    template <class Load>
+    void AddLoadedChild(int kind, Load load);
+    void NoteNames(std::map<std::wstring, NamedCtrl>& names) const;
     void AbandonChildren();
     void InvalidateChildren();
     void DropPresses();
@@ -78,8 +91,7 @@ class KORVANE_API CLQGroupCtrl : public CLQBaseCtrl {
 
     korvane::ChildList m_children;
     korvane::Capture m_captured;
-    std::map<std::wstring, CLQBaseCtrl*> m_mapNameToCtrl;
-    std::vector<korvane::LifeWatch> m_vecNameLife;
+    std::map<std::wstring, NamedCtrl> m_mapNameToCtrl;
     std::wstring m_strBkgFile;
     CLQSurfHandle m_surfBkg;
     bool m_bBkgColor = false;

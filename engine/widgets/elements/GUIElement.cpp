@@ -36,9 +36,13 @@ void CLQGUIElement::SetFatherCtrl(CLQBaseCtrl* ctrl) {
     m_fatherLife = ctrl ? ctrl->WatchLife() : korvane::LifeWatch();
 }
 
-CLQBaseCtrl* CLQGUIElement::GetFatherCtrl() const { return m_fatherLife.IsAlive() ? m_pFatherCtrl : nullptr; }
+CLQBaseCtrl* CLQGUIElement::GetFatherCtrl() const {
+    return m_fatherLife.IsAlive() ? m_pFatherCtrl : nullptr;
+}
 
-_eGUIElementType CLQGUIElement::GetGUIElementType() const { return m_eType; }
+_eGUIElementType CLQGUIElement::GetGUIElementType() const {
+    return m_eType;
+}
 
 void CLQGUIElement::SetRect(int x, int y, int width, int height) {
     m_nX = std::clamp(x, -korvane::kMaxPosition, korvane::kMaxPosition);

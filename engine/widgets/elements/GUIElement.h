@@ -14,8 +14,8 @@ class KORVANE_API CLQGUIElement {
   public:
     virtual ~CLQGUIElement();
 
-    /// Draws the look for a state, an _eImageType value; any other value is the normal state. Nothing is drawn
-    /// outside the element's rectangle.
+    /// Draws the look for a state, an _eImageType value; any other value is the normal state. Nothing is
+    /// drawn outside the element's rectangle.
     virtual void Draw(CLQSurfHandle& target, int state) = 0;
     /// A copy created with `new` that has no father; the caller owns it.
     virtual CLQGUIElement* Clone() const = 0;
@@ -30,8 +30,8 @@ class KORVANE_API CLQGUIElement {
     CLQBaseCtrl* GetFatherCtrl() const;
     _eGUIElementType GetGUIElementType() const;
 
-    /// The element's rectangle, relative to the father's top-left corner. A width or height below 1 stands for
-    /// the father's whole rectangle, which is also the rectangle of a new element.
+    /// The element's rectangle, relative to the father's top-left corner. A width or height below 1 stands
+    /// for the father's whole rectangle, which is also the rectangle of a new element.
     void SetRect(int x, int y, int width, int height);
 
   protected:

@@ -13,10 +13,13 @@ void CLQImageElement::Draw(CLQSurfHandle& target, int state) {
     if (state > eImage_Normal && state < kStateCount && m_images[state].Surface().GetSurface())
         image = &m_images[state];
     const _LQRect rect = ScreenRect();
-    target.BitBlt(image->Surface(), rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, 0, 0);
+    target.BitBlt(image->Surface(), rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top, 0,
+                  0);
 }
 
-CLQGUIElement* CLQImageElement::Clone() const { return new CLQImageElement(*this); }
+CLQGUIElement* CLQImageElement::Clone() const {
+    return new CLQImageElement(*this);
+}
 
 bool CLQImageElement::SetImage(int index, const wchar_t* file) {
     if (index < 0 || index >= kStateCount || !file)

@@ -14,8 +14,8 @@ class KORVANE_API CLQImageElement : public CLQGUIElement {
     CLQImageElement(const CLQImageElement& other);
     ~CLQImageElement() override;
 
-    /// Draws the image of the state at the top-left corner of the rectangle; a state without an image shows the
-    /// normal one.
+    /// Draws the image of the state at the top-left corner of the rectangle; a state without an image shows
+    /// the normal one.
     void Draw(CLQSurfHandle& target, int state) override;
     CLQGUIElement* Clone() const override;
     void ExchangeLayout(korvane::LayoutArchive& archive) override;

@@ -18,7 +18,9 @@ void CLQTextElement::Draw(CLQSurfHandle& target, int state) {
     m_line.Draw(target, ScreenRect(), m_line.Measure(), 0, m_colors[known ? state : eImage_Normal]);
 }
 
-CLQGUIElement* CLQTextElement::Clone() const { return new CLQTextElement(*this); }
+CLQGUIElement* CLQTextElement::Clone() const {
+    return new CLQTextElement(*this);
+}
 
 void CLQTextElement::ChangeLanguage() {
     if (m_nLangID != 0)
@@ -30,14 +32,18 @@ void CLQTextElement::SetText(const wchar_t* text) {
         Invalidate();
 }
 
-const std::wstring& CLQTextElement::GetText() const { return m_line.Text(); }
+const std::wstring& CLQTextElement::GetText() const {
+    return m_line.Text();
+}
 
 void CLQTextElement::SetLangID(int id) {
     m_nLangID = id;
     ChangeLanguage();
 }
 
-int CLQTextElement::GetLangID() const { return m_nLangID; }
+int CLQTextElement::GetLangID() const {
+    return m_nLangID;
+}
 
 void CLQTextElement::SetFont(CLQFont* font) {
     if (m_line.SetFont(font))
@@ -65,16 +71,18 @@ void CLQTextElement::SetTextColor(_LQColor& color) {
 }
 
 void CLQTextElement::SetTextColor(_eImageType state, _LQColor& color) {
-    if (state < 0 || state >= kStateCount)
+    const int index = state;
+    if (index < 0 || index >= kStateCount)
         return;
-    m_colors[state] = color;
+    m_colors[index] = color;
     Invalidate();
 }
 
 void CLQTextElement::ExchangeLayout(korvane::LayoutArchive& archive) {
     CLQGUIElement::ExchangeLayout(archive);
     m_line.ExchangeLooks(archive);
-    static const wchar_t* const kKeys[kStateCount] = {L"color", L"colorpressed", L"colorfocus", L"colordisabled"};
+    static const wchar_t* const kKeys[kStateCount] = {L"color", L"colorpressed", L"colorfocus",
+                                                      L"colordisabled"};
     for (int state = 0; state < kStateCount; ++state) {
         archive.Color(kKeys[state], m_colors[state], [this, state](_LQColor color) {
             SetTextColor(static_cast<_eImageType>(state), color);

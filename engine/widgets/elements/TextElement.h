@@ -6,7 +6,8 @@
 #include "engine/widgets/elements/GUIElement.h"
 #include "engine/widgets/elements/TextLine.h"
 
-/// A caption: a text of the language table, or a literal one. White and centred both ways unless told otherwise.
+/// A caption: a text of the language table, or a literal one. White and centred both ways unless told
+/// otherwise.
 class KORVANE_API CLQTextElement : public CLQGUIElement {
   public:
     CLQTextElement();
@@ -22,8 +23,8 @@ class KORVANE_API CLQTextElement : public CLQGUIElement {
     /// replaces the text.
     void SetText(const wchar_t* text);
     const std::wstring& GetText() const;
-    /// Takes the text from the language table, at once and whenever the language changes. 0 leaves the text as it
-    /// is.
+    /// Takes the text from the language table, at once and whenever the language changes. 0 leaves the text
+    /// as it is.
     void SetLangID(int id);
     int GetLangID() const;
 

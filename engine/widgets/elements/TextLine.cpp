@@ -72,7 +72,9 @@ bool TextLine::SetFontSize(int width, int height) {
     return widthChanged || heightChanged;
 }
 
-bool TextLine::SetStyle(int style) { return Store(style_, style); }
+bool TextLine::SetStyle(int style) {
+    return Store(style_, style);
+}
 
 CLQFont* TextLine::SizedFont() {
     if (!font_) {

@@ -36,8 +36,8 @@ class TextLine {
 
     /// 0 by 0 for an empty text.
     TextExtent Measure();
-    /// Draws the text, which has that extent, `shift` pixels to the right of its place in the area, and nothing
-    /// outside the area.
+    /// Draws the text, which has that extent, `shift` pixels to the right of its place in the area, and
+    /// nothing outside the area.
     void Draw(CLQSurfHandle& target, const _LQRect& area, const TextExtent& extent, int shift,
               const _LQColor& color);
 

@@ -4,8 +4,8 @@
 
 namespace korvane {
 
-/// How a line of text runs through its label, without knowing the label. One pass takes it over the width of the
-/// label and its own.
+/// How a line of text runs through its label, without knowing the label. One pass takes it over the width of
+/// the label and its own.
 struct TextScroll {
     bool enabled = false;
     bool onlyTooLong = false;

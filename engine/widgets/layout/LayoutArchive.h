@@ -6,9 +6,9 @@
 
 namespace korvane {
 
-/// The properties of one control or element on their way into a layout or out of it. Whoever has properties names
-/// each of them once: while storing, its current value is written; while loading, `set` is called with the stored
-/// value, or not at all when the layout does not tell it.
+/// The properties of one control or element on their way into a layout or out of it. Whoever has properties
+/// names each of them once: while storing, its current value is written; while loading, `set` is called with
+/// the stored value, or not at all when the layout does not tell it.
 class LayoutArchive {
   public:
     virtual ~LayoutArchive() = default;

@@ -1,0 +1,190 @@
+#include <cstring>
+#include <limits>
+#include <string>
+#include <utility>
+#include <zlib.h>
+
+#include "engine/widgets/layout/MemBlob.h"
+#include "platform/Files.h"
+#include "platform/Unicode.h"
+
+namespace {
+
+constexpr unsigned char kMagic[4] = {'K', 'V', 'L', 'Y'};
+constexpr std::uint32_t kVersion = 1;
+constexpr std::size_t kHeaderSize = 32;
+constexpr std::size_t kSizeAt = 8;
+constexpr std::size_t kChecksumAt = 12;
+/// The checksum covers everything behind itself.
+constexpr std::size_t kCheckedFrom = 16;
+constexpr std::size_t kRecordSize = 12;
+constexpr std::size_t kPropertySize = 8;
+constexpr std::uint32_t kNoParent = 0xFFFFFFFF;
+
+void Put16(std::vector<unsigned char>& bytes, std::uint32_t value) {
+    bytes.push_back(static_cast<unsigned char>(value));
+    bytes.push_back(static_cast<unsigned char>(value >> 8));
+}
+
+void Put32(std::vector<unsigned char>& bytes, std::uint32_t value) {
+    Put16(bytes, value & 0xFFFF);
+    Put16(bytes, value >> 16);
+}
+
+void Put32At(std::vector<unsigned char>& bytes, std::size_t at, std::uint32_t value) {
+    for (int i = 0; i < 4; ++i)
+        bytes[at + i] = static_cast<unsigned char>(value >> 8 * i);
+}
+
+std::uint32_t Checksum(const unsigned char* bytes, std::size_t size) {
+    return static_cast<std::uint32_t>(crc32(0, bytes + kCheckedFrom, static_cast<uInt>(size - kCheckedFrom)));
+}
+
+/// Reads little-endian numbers. A read beyond the end gives 0 and is remembered.
+class Reader {
+  public:
+    Reader(const unsigned char* bytes, std::size_t size) : bytes_(bytes), size_(size) {}
+
+    std::uint32_t Get16() {
+        const unsigned char* at = Take(2);
+        return at ? at[0] | static_cast<std::uint32_t>(at[1]) << 8 : 0;
+    }
+    std::uint32_t Get32() {
+        const std::uint32_t low = Get16();
+        return low | Get16() << 16;
+    }
+    std::string GetString(std::size_t length) {
+        const unsigned char* at = Take(length);
+        return at ? std::string(reinterpret_cast<const char*>(at), length) : std::string();
+    }
+    std::size_t Left() const { return size_; }
+    bool Failed() const { return failed_; }
+
+  private:
+    const unsigned char* Take(std::size_t count) {
+        if (count > size_) {
+            failed_ = true;
+            size_ = 0;
+            return nullptr;
+        }
+        const unsigned char* at = bytes_;
+        bytes_ += count;
+        size_ -= count;
+        return at;
+    }
+
+    const unsigned char* bytes_;
+    std::size_t size_;
+    bool failed_ = false;
+};
+
+}  // namespace
+
+std::vector<unsigned char> CLQMemBlob::ToBytes() const {
+    std::vector<unsigned char> bytes(kMagic, kMagic + sizeof(kMagic));
+    Put32(bytes, kVersion);
+    Put32(bytes, 0);
+    Put32(bytes, 0);
+    Put32(bytes, static_cast<std::uint32_t>(m_vecStrings.size()));
+    Put32(bytes, static_cast<std::uint32_t>(m_vecRecords.size()));
+    std::uint32_t propertyCount = 0;
+    for (const Record& record : m_vecRecords)
+        propertyCount += static_cast<std::uint32_t>(record.properties.size());
+    Put32(bytes, propertyCount);
+    Put32(bytes, 0);
+
+    for (const std::wstring& text : m_vecStrings) {
+        const std::string utf8 = korvane::ToUtf8(text);
+        if (bytes.size() + utf8.size() > kMaxFileSize)
+            return {};
+        Put16(bytes, static_cast<std::uint32_t>(utf8.size()));
+        bytes.insert(bytes.end(), utf8.begin(), utf8.end());
+    }
+    for (const Record& record : m_vecRecords) {
+        Put32(bytes, static_cast<std::uint32_t>(record.kind));
+        Put32(bytes, static_cast<std::uint32_t>(record.parent));
+        Put32(bytes, static_cast<std::uint32_t>(record.properties.size()));
+    }
+    if (bytes.size() + propertyCount * kPropertySize > kMaxFileSize)
+        return {};
+    for (const Record& record : m_vecRecords) {
+        for (const Property& property : record.properties) {
+            Put16(bytes, property.key);
+            Put16(bytes, static_cast<std::uint32_t>(property.type));
+            Put32(bytes, property.value);
+        }
+    }
+    Put32At(bytes, kSizeAt, static_cast<std::uint32_t>(bytes.size()));
+    Put32At(bytes, kChecksumAt, Checksum(bytes.data(), bytes.size()));
+    return bytes;
+}
+
+bool CLQMemBlob::FromBytes(const unsigned char* bytes, std::size_t size) {
+    if (!bytes || size < kHeaderSize || size > kMaxFileSize ||
+        std::memcmp(bytes, kMagic, sizeof(kMagic)) != 0)
+        return false;
+    Reader reader(bytes + sizeof(kMagic), size - sizeof(kMagic));
+    const std::uint32_t version = reader.Get32();
+    const std::uint32_t fileSize = reader.Get32();
+    const std::uint32_t checksum = reader.Get32();
+    const std::uint32_t stringCount = reader.Get32();
+    const std::uint32_t recordCount = reader.Get32();
+    const std::uint32_t propertyCount = reader.Get32();
+    const std::uint32_t reserved = reader.Get32();
+    if (version != kVersion || fileSize != size || checksum != Checksum(bytes, size) || reserved != 0 ||
+        stringCount > kMaxStrings || recordCount > kMaxRecords)
+        return false;
+
+    CLQMemBlob loaded;
+    for (std::uint32_t i = 0; i < stringCount; ++i) {
+        const std::size_t length = reader.Get16();
+        const std::string utf8 = reader.GetString(length);
+        // Each string stands there once, and as it would be written.
+        const std::wstring text = korvane::FromUtf8(utf8);
+        if (reader.Failed() || korvane::ToUtf8(text) != utf8 || loaded.Intern(text) != static_cast<int>(i))
+            return false;
+    }
+    const std::uint64_t rest =
+        std::uint64_t{recordCount} * kRecordSize + std::uint64_t{propertyCount} * kPropertySize;
+    if (reader.Left() != rest)
+        return false;
+
+    std::uint64_t propertySum = 0;
+    for (std::uint32_t i = 0; i < recordCount; ++i) {
+        const std::uint32_t kind = reader.Get32();
+        const std::uint32_t parent = reader.Get32();
+        const std::uint32_t count = reader.Get32();
+        propertySum += count;
+        if (kind > static_cast<std::uint32_t>(std::numeric_limits<int>::max()) || count > kMaxProperties ||
+            (parent != kNoParent && parent >= i) ||
+            !loaded.AppendRecord(static_cast<int>(kind), parent == kNoParent ? -1 : static_cast<int>(parent)))
+            return false;
+        loaded.m_vecRecords.back().written = true;
+        loaded.m_vecRecords.back().properties.resize(count);
+    }
+    if (propertySum != propertyCount)
+        return false;
+    for (Record& record : loaded.m_vecRecords) {
+        for (Property& property : record.properties) {
+            property.key = static_cast<std::uint16_t>(reader.Get16());
+            property.type = static_cast<Type>(reader.Get16());
+            property.value = reader.Get32();
+            const bool known = property.type == Type::Number || property.type == Type::Color ||
+                               (property.type == Type::Text && property.value < stringCount);
+            if (!known || property.key >= stringCount)
+                return false;
+        }
+    }
+    *this = std::move(loaded);
+    return true;
+}
+
+bool CLQMemBlob::LoadFile(const wchar_t* file) {
+    std::vector<unsigned char> bytes;
+    return korvane::ReadWholeFile(file, kMaxFileSize, bytes) && FromBytes(bytes.data(), bytes.size());
+}
+
+bool CLQMemBlob::SaveFile(const wchar_t* file) const {
+    const std::vector<unsigned char> bytes = ToBytes();
+    return !bytes.empty() && korvane::ReplaceFileAtomically(file, bytes.data(), bytes.size());
+}
