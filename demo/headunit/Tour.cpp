@@ -1,5 +1,7 @@
 #include "demo/headunit/Tour.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <utility>
 
@@ -95,9 +97,12 @@ void Tour::TakePicture(const std::string& name) {
         std::snprintf(number, sizeof number, "%02zu-", pictures_.size() + 1);
         path = folder_ + "/" + number + name + ".png";
     }
-    const CLQSurfHandle& screen = CLQScreen::GetInstance()->GetScreenSurfHandle();
+    const CLQSurface* screen = CLQScreen::GetInstance()->GetScreenSurfHandle().GetSurface();
+    const auto* pixels = static_cast<const std::uint32_t*>(screen->GetPixels());
+    const auto stride = screen->GetPitch() / static_cast<std::ptrdiff_t>(sizeof *pixels);
     std::string reason;
-    if (WriteScreenPng(path, screen, reason))
+    if (tools::WritePng(path, pixels, stride, screen->GetWidth(), screen->GetHeight(), tools::PngAlpha::Drop,
+                        reason))
         pictures_.push_back(path);
     else
         failure_ = path + ": " + reason;

@@ -1,0 +1,21 @@
+# cmake -DBUILD_DIR=... -DCONFIG=... -DWORK_DIR=... -DCONSUMER_DIR=... -DCXX_COMPILER=... -DSANITIZE=...
+#       -P BuildConsumer.cmake
+file(REMOVE_RECURSE "${WORK_DIR}")
+set(prefix "${WORK_DIR}/prefix")
+set(build "${WORK_DIR}/build")
+
+function(run)
+  execute_process(COMMAND ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+set(flags)
+if(SANITIZE)
+  # A library built with AddressSanitizer needs a program that is.
+  set(flags "-DCMAKE_CXX_FLAGS=-fsanitize=${SANITIZE}")
+endif()
+run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --config "${CONFIG}" --prefix "${prefix}")
+run("${CMAKE_COMMAND}" -S "${CONSUMER_DIR}" -B "${build}" -G Ninja "-DCMAKE_PREFIX_PATH=${prefix}"
+    "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}" ${flags})
+run("${CMAKE_COMMAND}" --build "${build}")
+run("${build}/engine_user")
+run("${build}/controls_user")
