@@ -321,71 +321,71 @@ void CLQNumSlider::Draw(CLQSurfHandle& target) {
     if (m_pOwnerWnd && !IsNeedRedraw())
         return;
     ApplyFontSize();
-    int left = 0;
-    int top = 0;
-    GetScreenXY(left, top);
+    _LQRect area;
+    GetScreenXY(area.left, area.top);
+    area.right = area.left + m_nWidth;
+    area.bottom = area.top + m_nHeight;
     if (HasValue()) {
-        DrawNumbers(target, left, top);
-        BlitWhole(target, m_pLabel, left + wheel::kLabelLeft, top + wheel::kLabelTop);
+        DrawNumbers(target, area);
+        BlitWhole(target, m_pLabel, area.left + wheel::kLabelLeft, area.top + wheel::kLabelTop);
     }
-    DrawImages(target, left, top);
+    DrawImages(target, area);
     if (m_pOwnerWnd)
         Redraw(false);
 }
 
-void CLQNumSlider::DrawNumbers(CLQSurfHandle& target, int left, int top) {
+void CLQNumSlider::DrawNumbers(CLQSurfHandle& target, const _LQRect& area) {
     if (!m_pFont)
         return;
     const int rows = m_bMoving ? wheel::kRowsRolling : wheel::kRowsAtRest;
     if (m_bDecimal)
-        DrawOdometer(target, left, top, rows);
+        DrawOdometer(target, area, rows);
     else
-        DrawCounter(target, left, top, rows);
+        DrawCounter(target, area, rows);
 }
 
-void CLQNumSlider::DrawOdometer(CLQSurfHandle& target, int left, int top, int rows) {
-    const int integerRight = left + m_pFont->GetStringWidth(wheel::kIntegerMeasure, false);
-    const int pointRight = left + m_pFont->GetStringWidth(wheel::kPointMeasure, false);
-    const int fractionRight = left + m_pFont->GetStringWidth(wheel::kFractionMeasure, false);
+void CLQNumSlider::DrawOdometer(CLQSurfHandle& target, const _LQRect& area, int rows) {
+    const int integerRight = area.left + m_pFont->GetStringWidth(wheel::kIntegerMeasure, false);
+    const int pointRight = area.left + m_pFont->GetStringWidth(wheel::kPointMeasure, false);
+    const int fractionRight = area.left + m_pFont->GetStringWidth(wheel::kFractionMeasure, false);
 
     wchar_t text[kNumberLength];
     for (int row = 0; row < rows; ++row) {
         const int steps = row - wheel::kMiddleRow;
         std::swprintf(text, kNumberLength, L"%d", Saturated(std::int64_t{m_nInteger} + steps));
-        DrawNumberText(target, text, integerRight, top + wheel::OdometerRowTop(row, m_nIntegerOffset));
+        DrawNumberText(target, text, integerRight, area.top + wheel::OdometerRowTop(row, m_nIntegerOffset),
+                       area);
 
         const float neighbour = m_fValue + static_cast<float>(steps) * m_fScale;
         std::swprintf(text, kNumberLength, L"%.2d", korvane::HundredthsPart(neighbour));
-        DrawNumberText(target, text, fractionRight, top + wheel::OdometerRowTop(row, m_nDecimalOffset));
+        DrawNumberText(target, text, fractionRight, area.top + wheel::OdometerRowTop(row, m_nDecimalOffset),
+                       area);
     }
-    DrawNumberText(target, L".", pointRight, top + wheel::OdometerRowTop(wheel::kMiddleRow, 0));
+    // The point stands still.
+    DrawNumberText(target, L".", pointRight, area.top + wheel::OdometerRowTop(wheel::kMiddleRow, 0), area);
 }
 
-void CLQNumSlider::DrawCounter(CLQSurfHandle& target, int left, int top, int rows) {
+void CLQNumSlider::DrawCounter(CLQSurfHandle& target, const _LQRect& area, int rows) {
     const std::int64_t step = korvane::TruncateToInt(m_fScale);
 
     wchar_t text[kNumberLength];
     for (int row = 0; row < rows; ++row) {
         const int number = Saturated(m_nInteger + (row - wheel::kMiddleRow) * step);
         std::swprintf(text, kNumberLength, L"%d", number);
-        DrawNumberText(target, text, left + wheel::CounterRight(number),
-                       top + wheel::CounterRowTop(row, m_nIntegerOffset));
+        DrawNumberText(target, text, area.left + wheel::CounterRight(number),
+                       area.top + wheel::CounterRowTop(row, m_nIntegerOffset), area);
     }
 }
 
-void CLQNumSlider::DrawNumberText(CLQSurfHandle& target, const wchar_t* text, int right, int top) {
-    int clipLeft = 0;
-    int clipTop = 0;
-    GetScreenXY(clipLeft, clipTop);
-    _LQRect clip = {clipLeft, clipLeft + m_nWidth, clipTop, clipTop + m_nHeight};
+void CLQNumSlider::DrawNumberText(CLQSurfHandle& target, const wchar_t* text, int right, int top,
+                                  _LQRect clip) {
     _LQColor white = White();
     target.DrawTextW(text, m_pFont, right, top, eText_Right, white, &clip, 0);
 }
 
-void CLQNumSlider::DrawImages(CLQSurfHandle& target, int left, int top) {
-    const int bottom = top + m_nHeight;
-    BlitWhole(target, m_pShadowUp, left, top);
-    BlitWhole(target, m_pShadowDown, left, bottom - HeightOf(m_pShadowDown));
-    BlitWhole(target, m_pSeekUp, left + wheel::kSeekLeft, top + wheel::kSeekUpTop);
-    BlitWhole(target, m_pSeekDown, left + wheel::kSeekLeft, bottom - wheel::kSeekDownAboveBottom);
+void CLQNumSlider::DrawImages(CLQSurfHandle& target, const _LQRect& area) {
+    BlitWhole(target, m_pShadowUp, area.left, area.top);
+    BlitWhole(target, m_pShadowDown, area.left, area.bottom - HeightOf(m_pShadowDown));
+    BlitWhole(target, m_pSeekUp, area.left + wheel::kSeekLeft, area.top + wheel::kSeekUpTop);
+    BlitWhole(target, m_pSeekDown, area.left + wheel::kSeekLeft, area.bottom - wheel::kSeekDownAboveBottom);
 }

@@ -127,9 +127,9 @@ class KORVANEEX_API CLQNumSlider : public CLQBaseCtrl {
     void DoRelease(const _LQMessage& msg);
     void CallBack(MoveCallBack callBack);
 
-    void DrawNumbers(CLQSurfHandle& target, int left, int top);
-    void DrawOdometer(CLQSurfHandle& target, int left, int top, int rows);
-    void DrawCounter(CLQSurfHandle& target, int left, int top, int rows);
-    void DrawNumberText(CLQSurfHandle& target, const wchar_t* text, int right, int top);
-    void DrawImages(CLQSurfHandle& target, int left, int top);
+    void DrawNumbers(CLQSurfHandle& target, const _LQRect& area);
+    void DrawOdometer(CLQSurfHandle& target, const _LQRect& area, int rows);
+    void DrawCounter(CLQSurfHandle& target, const _LQRect& area, int rows);
+    void DrawNumberText(CLQSurfHandle& target, const wchar_t* text, int right, int top, _LQRect clip);
+    void DrawImages(CLQSurfHandle& target, const _LQRect& area);
 };
