@@ -14,18 +14,22 @@ std::string& FailureText() {
 
 }  // namespace
 
-bool ActivateDisplay(Display* display, HWND owner) {
+bool MayActivateDisplay(const Display* display, HWND owner) {
     const ThreadQueue& queue = CurrentQueue();
     Session& session = TheSession();
     const std::lock_guard<std::mutex> lock(session.mutex);
     const Window* window = FindWindowOf(session, owner);
     if (!window || window->queue != &queue)
         return FailDisplay("the display's owner is not a window of this thread");
-    if (session.display && session.display != display)
-        return FailDisplay("another display is open");
+    return !session.display || session.display == display || FailDisplay("another display is open");
+}
+
+void ActivateDisplay(Display* display) {
+    ThreadQueue& queue = CurrentQueue();
+    Session& session = TheSession();
+    const std::lock_guard<std::mutex> lock(session.mutex);
     session.display = display;
-    session.displayQueue = window->queue;
-    return true;
+    session.displayQueue = &queue;
 }
 
 void DeactivateDisplay(Display* display) {

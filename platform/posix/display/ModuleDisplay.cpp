@@ -48,12 +48,14 @@ ModuleDisplay::~ModuleDisplay() {
 }
 
 bool ModuleDisplay::Open(int width, int height, const wchar_t* title, HWND owner) {
-    if (!ActivateDisplay(this, owner))
+    if (!MayActivateDisplay(this, owner))
         return false;
-    if (inner_->Open(width, height, title, owner))
-        return true;
+    // What opens anew must not be woken halfway through.
     DeactivateDisplay(this);
-    return false;
+    if (!inner_->Open(width, height, title, owner))
+        return false;
+    ActivateDisplay(this);
+    return true;
 }
 
 std::unique_ptr<Display> LoadDisplayModule(const char* name) {

@@ -1,0 +1,95 @@
+#include <gtest/gtest.h>
+
+#include "platform/coredll.h"
+
+#include "tests/platform/DeviceFolder.h"
+
+namespace korvane {
+namespace {
+
+class FileCallsTest : public testing::Test {
+  protected:
+    DeviceFolder device_;
+};
+
+TEST_F(FileCallsTest, MakesAndRemovesFolders) {
+    EXPECT_TRUE(CreateDirectoryW(L"\\Data", nullptr));
+    EXPECT_EQ(GetFileAttributesW(L"\\DATA"), FILE_ATTRIBUTE_DIRECTORY);
+    EXPECT_FALSE(CreateDirectoryW(L"\\data", nullptr));
+    EXPECT_EQ(GetLastError(), ERROR_ALREADY_EXISTS);
+    EXPECT_FALSE(CreateDirectoryW(L"\\None\\Below", nullptr));
+    EXPECT_EQ(GetLastError(), ERROR_PATH_NOT_FOUND);
+    device_.Write("Data/file");
+    EXPECT_FALSE(RemoveDirectoryW(L"\\Data"));
+    EXPECT_EQ(GetLastError(), ERROR_DIR_NOT_EMPTY);
+    EXPECT_TRUE(DeleteFileW(L"\\Data\\FILE"));
+    EXPECT_TRUE(RemoveDirectoryW(L"\\Data"));
+    EXPECT_EQ(GetFileAttributesW(L"\\Data"), INVALID_FILE_ATTRIBUTES);
+}
+
+TEST_F(FileCallsTest, NeverRemovesTheRoot) {
+    EXPECT_FALSE(RemoveDirectoryW(L"\\"));
+    EXPECT_FALSE(RemoveDirectoryW(L"a\\.."));
+    EXPECT_FALSE(MoveFileW(L"\\", L"\\a"));
+    EXPECT_FALSE(DeleteFileW(L"\\"));
+    EXPECT_EQ(GetFileAttributesW(L"\\"), FILE_ATTRIBUTE_DIRECTORY);
+}
+
+TEST_F(FileCallsTest, DeletesNoFolderAsAFile) {
+    CreateDirectoryW(L"a", nullptr);
+    EXPECT_FALSE(DeleteFileW(L"a"));
+    EXPECT_FALSE(DeleteFileW(L"b"));
+    device_.Write("c");
+    EXPECT_FALSE(RemoveDirectoryW(L"c"));
+}
+
+TEST_F(FileCallsTest, DoesNotMoveOverAnotherFile) {
+    device_.Write("from", "1");
+    device_.Write("to", "2");
+    EXPECT_FALSE(MoveFileW(L"from", L"TO"));
+    EXPECT_EQ(device_.Read("to"), "2");
+    EXPECT_TRUE(MoveFileW(L"from", L"new"));
+    EXPECT_EQ(device_.Read("new"), "1");
+    EXPECT_FALSE(MoveFileW(L"from", L"newer"));
+}
+
+TEST_F(FileCallsTest, ChangesTheCaseOfAName) {
+    device_.Write("name", "1");
+    EXPECT_TRUE(MoveFileW(L"name", L"NAME"));
+    EXPECT_EQ(device_.Read("NAME"), "1");
+}
+
+TEST_F(FileCallsTest, OpensFilesInTheModesOfTheCLibrary) {
+    std::FILE* file = _wfopen(L"\\new.ini", L"wb");
+    ASSERT_NE(file, nullptr);
+    std::fputs("abc", file);
+    std::fclose(file);
+    file = _wfopen(L"NEW.INI", L"rt, ccs=UTF-8");
+    ASSERT_NE(file, nullptr);
+    EXPECT_EQ(std::fgetc(file), 'a');
+    std::fclose(file);
+}
+
+TEST_F(FileCallsTest, OpensNothingThatIsNoFile) {
+    CreateDirectoryW(L"folder", nullptr);
+    EXPECT_EQ(_wfopen(L"folder", L"rb"), nullptr);
+    EXPECT_EQ(_wfopen(L"missing", L"rb"), nullptr);
+    EXPECT_EQ(_wfopen(L"none\\file", L"wb"), nullptr);
+    EXPECT_EQ(_wfopen(nullptr, L"rb"), nullptr);
+    EXPECT_EQ(_wfopen(L"x", nullptr), nullptr);
+    EXPECT_EQ(_wfopen(L"x", L""), nullptr);
+    EXPECT_EQ(_wfopen(L"x", L"q"), nullptr);
+    EXPECT_EQ(_wfopen(L"x", L"+r"), nullptr);
+}
+
+TEST_F(FileCallsTest, RefusesMissingNames) {
+    EXPECT_FALSE(CreateDirectoryW(nullptr, nullptr));
+    EXPECT_FALSE(RemoveDirectoryW(L""));
+    EXPECT_FALSE(DeleteFileW(nullptr));
+    EXPECT_FALSE(MoveFileW(nullptr, L"a"));
+    EXPECT_FALSE(MoveFileW(L"a", nullptr));
+    EXPECT_EQ(GetFileAttributesW(nullptr), INVALID_FILE_ATTRIBUTES);
+}
+
+}  // namespace
+}  // namespace korvane

@@ -1,0 +1,219 @@
+#include <gtest/gtest.h>
+
+#include "tests/platform/TestWindow.h"
+
+namespace korvane {
+namespace {
+
+const HWND kNoWindow = reinterpret_cast<HWND>(static_cast<INT_PTR>(-1));
+
+bool Take(MSG& message, HWND window = nullptr, UINT first = 0, UINT last = 0) {
+    return PeekMessageW(&message, window, first, last, PM_REMOVE) != 0;
+}
+
+TEST(MessageQueue, GivesPostedMessagesInTheOrderOfPosting) {
+    const TestWindow window;
+    for (UINT i = 0; i < 100; ++i)
+        ASSERT_TRUE(PostMessageW(window.Handle(), WM_APP + i, i, -static_cast<LPARAM>(i)));
+    for (UINT i = 0; i < 100; ++i) {
+        MSG message{};
+        ASSERT_EQ(GetMessageW(&message, nullptr, 0, 0), TRUE);
+        EXPECT_EQ(message.hwnd, window.Handle());
+        EXPECT_EQ(message.message, WM_APP + i);
+        EXPECT_EQ(message.wParam, i);
+        EXPECT_EQ(message.lParam, -static_cast<LPARAM>(i));
+    }
+    MSG message{};
+    EXPECT_FALSE(Take(message));
+}
+
+TEST(MessageQueue, LeavesAPeekedMessageInPlaceUnlessToldToRemoveIt) {
+    const TestWindow window;
+    PostMessageW(window.Handle(), WM_APP, 1, 0);
+    MSG message{};
+    EXPECT_TRUE(PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE));
+    EXPECT_TRUE(PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE));
+    EXPECT_EQ(message.wParam, 1u);
+    EXPECT_TRUE(Take(message));
+    EXPECT_FALSE(PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE));
+}
+
+TEST(MessageQueue, PassesOnlyTheNumbersOfARange) {
+    const TestWindow window;
+    for (const UINT number : {WM_APP + 1, WM_APP + 5, WM_APP + 2})
+        PostMessageW(window.Handle(), number, 0, 0);
+    MSG message{};
+    ASSERT_TRUE(Take(message, nullptr, WM_APP + 2, WM_APP + 5));
+    EXPECT_EQ(message.message, WM_APP + 5);
+    ASSERT_TRUE(Take(message, nullptr, WM_APP + 2, WM_APP + 5));
+    EXPECT_EQ(message.message, WM_APP + 2);
+    EXPECT_FALSE(Take(message, nullptr, WM_APP + 2, WM_APP + 5));
+    EXPECT_TRUE(Take(message));
+}
+
+TEST(MessageQueue, PeeksTheKeyboardRangeOfAQueueThatHoldsOnlyOtherMessages) {
+    const TestWindow window;
+    MSG message{};
+    EXPECT_FALSE(PeekMessageW(&message, nullptr, 256, 264, PM_NOREMOVE));
+    PostMessageW(window.Handle(), WM_APP, 0, 0);
+    EXPECT_FALSE(PeekMessageW(&message, nullptr, 256, 264, PM_NOREMOVE));
+    PostMessageW(window.Handle(), WM_KEYDOWN, VK_F1, 0);
+    EXPECT_TRUE(PeekMessageW(&message, nullptr, 256, 264, PM_NOREMOVE));
+}
+
+TEST(MessageQueue, PassesOnlyTheMessagesOfAWindow) {
+    const TestWindow first;
+    const TestWindow second;
+    PostMessageW(first.Handle(), WM_APP, 1, 0);
+    PostMessageW(second.Handle(), WM_APP, 2, 0);
+    MSG message{};
+    ASSERT_TRUE(Take(message, second.Handle()));
+    EXPECT_EQ(message.wParam, 2u);
+    EXPECT_FALSE(Take(message, second.Handle()));
+    ASSERT_TRUE(Take(message, first.Handle()));
+    EXPECT_EQ(message.wParam, 1u);
+}
+
+TEST(MessageQueue, CountsTheMessagesOfAChildToItsParent) {
+    const TestWindow parent;
+    TestWindow::Options options;
+    options.style = WS_CHILD | WS_VISIBLE;
+    options.parent = parent.Handle();
+    const TestWindow child(options);
+    PostMessageW(child.Handle(), WM_APP, 7, 0);
+    MSG message{};
+    ASSERT_TRUE(Take(message, parent.Handle()));
+    EXPECT_EQ(message.hwnd, child.Handle());
+}
+
+TEST(MessageQueue, KeepsMessagesOfNoWindowApart) {
+    const TestWindow window;
+    PostMessageW(window.Handle(), WM_APP, 1, 0);
+    PostMessageW(nullptr, WM_APP, 2, 0);
+    MSG message{};
+    ASSERT_TRUE(Take(message, kNoWindow));
+    EXPECT_EQ(message.hwnd, nullptr);
+    EXPECT_EQ(message.wParam, 2u);
+    EXPECT_FALSE(Take(message, kNoWindow));
+}
+
+TEST(MessageQueue, ReportsAWindowThatDoesNotExist) {
+    HWND dead = nullptr;
+    {
+        const TestWindow window;
+        dead = window.Handle();
+    }
+    MSG message{};
+    EXPECT_EQ(GetMessageW(&message, dead, 0, 0), -1);
+    EXPECT_FALSE(PeekMessageW(&message, dead, 0, 0, PM_REMOVE));
+    EXPECT_FALSE(PostMessageW(dead, WM_APP, 0, 0));
+    EXPECT_EQ(SendMessageW(dead, WM_APP, 0, 0), 0);
+}
+
+TEST(MessageQueue, StampsAMessageWithTheTimeOfItsPosting) {
+    const TestWindow window;
+    const DWORD before = GetTickCount();
+    PostMessageW(window.Handle(), WM_APP, 0, 0);
+    const DWORD after = GetTickCount();
+    MSG message{};
+    ASSERT_TRUE(Take(message));
+    EXPECT_LE(message.time - before, after - before);
+}
+
+TEST(MessageQueue, RefusesThePostThatWouldBeOneTooMany) {
+    const TestWindow window;
+    for (int i = 0; i < 10000; ++i)
+        ASSERT_TRUE(PostMessageW(window.Handle(), WM_APP, 0, 0)) << i;
+    EXPECT_FALSE(PostMessageW(window.Handle(), WM_APP, 0, 0));
+    MSG message{};
+    ASSERT_TRUE(Take(message));
+    EXPECT_TRUE(PostMessageW(window.Handle(), WM_APP, 0, 0));
+}
+
+TEST(MessageQueue, RefusesToPostWhatPointsIntoTheSendersMemory) {
+    const TestWindow window;
+    EXPECT_FALSE(PostMessageW(window.Handle(), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"x")));
+    EXPECT_FALSE(PostMessageW(window.Handle(), WM_GETTEXT, 10, 0));
+}
+
+TEST(MessageQueue, GivesQuitAfterEverythingThatWaits) {
+    const TestWindow window;
+    PostQuitMessage(5);
+    PostMessageW(window.Handle(), WM_APP, 0, 0);
+    MSG message{};
+    EXPECT_EQ(GetMessageW(&message, nullptr, 0, 0), TRUE);
+    EXPECT_EQ(message.message, WM_APP);
+    EXPECT_EQ(GetMessageW(&message, nullptr, 0, 0), FALSE);
+    EXPECT_EQ(message.message, WM_QUIT);
+    EXPECT_EQ(message.wParam, 5u);
+    EXPECT_FALSE(Take(message));
+}
+
+TEST(MessageQueue, LetsQuitThroughEveryFilter) {
+    const TestWindow window;
+    MSG message{};
+    PostQuitMessage(1);
+    EXPECT_EQ(GetMessageW(&message, window.Handle(), WM_KEYFIRST, WM_KEYFIRST), FALSE);
+    PostQuitMessage(2);
+    ASSERT_TRUE(PeekMessageW(&message, window.Handle(), WM_KEYFIRST, WM_KEYFIRST, PM_NOREMOVE));
+    ASSERT_TRUE(Take(message, window.Handle(), WM_KEYFIRST, WM_KEYFIRST));
+    EXPECT_EQ(message.message, WM_QUIT);
+    EXPECT_EQ(message.wParam, 2u);
+}
+
+TEST(MessageQueue, TreatsAPostedQuitAsTheEndOfALoop) {
+    const TestWindow window;
+    PostMessageW(window.Handle(), WM_QUIT, 3, 0);
+    MSG message{};
+    EXPECT_EQ(GetMessageW(&message, nullptr, 0, 0), FALSE);
+    EXPECT_EQ(message.wParam, 3u);
+}
+
+TEST(MessageQueue, TypesTheCharacterOfAKey) {
+    TestWindow window;
+    const MSG key{window.Handle(), WM_KEYDOWN, VK_RETURN, 1, 0, {}};
+    EXPECT_TRUE(TranslateMessage(&key));
+    MSG message{};
+    ASSERT_TRUE(Take(message));
+    EXPECT_EQ(message.message, WM_CHAR);
+    EXPECT_EQ(message.wParam, 13u);
+    const MSG other{window.Handle(), WM_APP, VK_RETURN, 1, 0, {}};
+    EXPECT_FALSE(TranslateMessage(&other));
+    EXPECT_FALSE(Take(message));
+}
+
+TEST(MessageQueue, DispatchesToTheWindowAndReturnsItsAnswer) {
+    TestWindow window;
+    window.onMessage = [](UINT, WPARAM wParam, LPARAM, LRESULT& result) {
+        result = static_cast<LRESULT>(wParam) * 2;
+        return true;
+    };
+    const MSG message{window.Handle(), WM_APP, 21, 0, 0, {}};
+    EXPECT_EQ(DispatchMessageW(&message), 42);
+}
+
+TEST(MessageQueue, IgnoresAMessageOfNoWindowWhenDispatching) {
+    const MSG message{nullptr, WM_APP, 0, 0, 0, {}};
+    EXPECT_EQ(DispatchMessageW(&message), 0);
+}
+
+TEST(MessageQueue, LetsAProcedurePumpMessages) {
+    TestWindow window;
+    std::vector<WPARAM> seen;
+    window.onMessage = [&](UINT number, WPARAM wParam, LPARAM, LRESULT&) {
+        if (number != WM_APP)
+            return false;
+        seen.push_back(wParam);
+        if (wParam == 1)
+            DrainQueue();
+        seen.push_back(wParam + 10);
+        return true;
+    };
+    PostMessageW(window.Handle(), WM_APP, 1, 0);
+    PostMessageW(window.Handle(), WM_APP, 2, 0);
+    DrainQueue();
+    EXPECT_EQ(seen, (std::vector<WPARAM>{1, 2, 12, 11}));
+}
+
+}  // namespace
+}  // namespace korvane
