@@ -17,8 +17,8 @@ class KORVANE_API CLQSurfManager {
     CLQSurfHandle CreateSurface(const wchar_t* file, bool share);
 
     /// A new surface, transparent or, in formats without alpha, black. Sizes below 1, sizes beyond
-    /// korvane::kMaxSurfaceExtent and unknown types give an empty handle. `clear` false may leave the pixels
-    /// unset.
+    /// korvane::kMaxSurfaceExtent or korvane::kMaxSurfacePixels, and unknown types give an empty handle.
+    /// `clear` false lets the engine leave the pixels unset.
     CLQSurfHandle CreateSurface(int width, int height, _eSurfaceType type, bool clear);
 
   private:

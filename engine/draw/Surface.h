@@ -39,7 +39,8 @@ class KORVANE_API CLQSurface {
     const void* GetPixels() const;
     /// Bytes from one row to the next.
     int GetPitch() const;
-    /// Forgets what was known about the pixels (opaque, runs). Call it after writing through `GetPixels`.
+    /// Forgets what was known about the pixels (opaque, runs) and sets the unused bytes of XRGB8888 to 255.
+    /// Call it after writing through `GetPixels`.
     void Touch();
 
     /// True when every pixel is known to be opaque.
@@ -47,6 +48,7 @@ class KORVANE_API CLQSurface {
 
     /// Bounds what drawing into this surface may change, in screen coordinates; null: the whole surface.
     void SetClip(const _LQRect* clip);
+    /// The part of the surface that drawing may change, in screen coordinates.
     _LQRect GetClip() const;
     /// The screen position that the surface's top-left pixel stands for.
     void SetOrigin(int x, int y);
@@ -78,23 +80,27 @@ class KORVANE_API CLQSurfHandle {
     /// Gives up the surface, whose memory returns with its last handle, and leaves this handle empty.
     void Release();
 
-    /// Blends a width by height block of the source at (sourceX, sourceY) over this surface at (x, y). The
-    /// block is bounded by the source, by this surface and by its clip. A surface may be its own source.
+    /// Blends a width by height block of the source over this surface, such that the source's pixel (sourceX,
+    /// sourceY), counted from the source's corner, comes to (x, y). Pixels of the block that the source, this
+    /// surface or its clip does not have are left out; the others keep their places. A surface may be its own
+    /// source: it is then as if the source had been copied before.
     void BitBlt(CLQSurfHandle& source, int x, int y, int width, int height, int sourceX, int sourceY);
 
     /// Blends the source block, scaled to width by height with bilinear filtering, over this surface. A
-    /// source block that reaches outside the source draws nothing. `mode` is reserved; callers pass 0.
+    /// source block that reaches outside the source, or a side below 1 or above 16384, draws nothing. A
+    /// surface may be its own source. `mode` is reserved; callers pass 0.
     void StretchBlt(CLQSurfHandle& source, int x, int y, int width, int height, int sourceX, int sourceY,
                     int sourceWidth, int sourceHeight, int mode);
 
     /// Blends the whole source over this surface, scaled by the two factors and turned by `angle` degrees
     /// clockwise, such that its pixel (pivotX, pivotY) comes to (x, y). Mode 2 filters bilinearly, other
-    /// modes take the nearest pixel. Factors that are not finite or not above 0 draw nothing.
+    /// modes take the nearest pixel. Factors outside 1/1024 to 1024 (NaN among them) draw nothing. A surface
+    /// may be its own source.
     void RotateBlt(CLQSurfHandle& source, int x, int y, float scaleX, float scaleY, int pivotX, int pivotY,
                    int angle, int mode);
 
-    /// Fills a rectangle given by its edges. `blend` false stores the colour with its alpha, true blends it
-    /// over.
+    /// Fills a rectangle given by its edges. `blend` false stores the colour with its alpha (in formats
+    /// without alpha: as it looks over black), true blends it over.
     void FillRect(int left, int top, int right, int bottom, _LQColor& color, bool blend);
 
     /// Draws one line of text in the font's current size; y is the top of the line. Style 0 starts the text
