@@ -39,8 +39,9 @@ CLQLangManager::CLQLangManager() : m_pImpl(std::make_unique<Impl>()) {}
 CLQLangManager::~CLQLangManager() = default;
 
 CLQLangManager* CLQLangManager::GetInstance() {
-    static CLQLangManager manager;
-    return &manager;
+    // Never destroyed: windows that end with the program may still ask for texts.
+    static CLQLangManager* const manager = new CLQLangManager;
+    return manager;
 }
 
 std::wstring CLQLangManager::GetString(int id) {
