@@ -33,11 +33,11 @@ bool RadioScreen::OnInit() {
 }
 
 void RadioScreen::CreateStrip() {
-    CreateLabel(title_, {28, 400, 0, 52}, 28, eText_Left | eText_VCenter, {255, 255, 255, 255});
+    CreateLabel(title_, {28, 400, 0, 56}, 28, eText_Left | eText_VCenter, {255, 255, 255, 255});
     title_.SetText(L"Radio");
     AddChild(&title_);
 
-    CreateLabel(clock_, {600, 772, 0, 52}, 28, eText_Right | eText_VCenter, {255, 255, 255, 255});
+    CreateLabel(clock_, {600, 772, 0, 56}, 28, eText_Right | eText_VCenter, {255, 255, 255, 255});
     AddChild(&clock_);
     OnClock(nullptr, 0);
     clockTimer_.SetTimer(kClockPeriodMs);
@@ -46,9 +46,9 @@ void RadioScreen::CreateStrip() {
 }
 
 void RadioScreen::CreateWheel() {
-    wheel_.Create(248, 100, 312, 248);
+    wheel_.Create(248, 118, 312, 212);
     wheel_.SetFont(CLQFontManager::GetInstance()->GetDefaultFont());
-    wheel_.SetFontSize(70, 70);
+    wheel_.SetFontSize(72, 72);
     wheel_.SetSeekUpGnd(L"SeekUp.lqi");
     wheel_.SetSeekDownGnd(L"SeekDown.lqi");
     // The three callbacks share one context.
@@ -113,8 +113,9 @@ void RadioScreen::ShowBand() {
 void RadioScreen::Tune(float frequency) {
     const Band& band = CurrentBand();
     const int step = band.StepOf(frequency);
-    // Onto the band's grid: a long way of small steps adds up small errors.
+    // From the band's grid: the rounding errors of many steps would add up, and step over the band's end.
     Frequency() = band.FrequencyOf(step);
+    wheel_.SetVaule(Frequency());
     bandSlider_.SetValue(step);
 }
 
@@ -141,8 +142,8 @@ void RadioScreen::OnWheelStep(CLQNumSlider*, float* frequency) {
 }
 
 void RadioScreen::OnBandSlider(CLQSliderCtrl*, int* step) {
-    Tune(CurrentBand().FrequencyOf(*step));
     StopSeeking();
+    Tune(CurrentBand().FrequencyOf(*step));
 }
 
 void RadioScreen::OnClock(void*, int) {

@@ -1,6 +1,5 @@
 #include "demo/headunit/Tour.h"
 
-#include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <utility>
@@ -16,6 +15,19 @@ namespace {
 
 /// Any tick would do; this one is far from the clock's wrap.
 constexpr unsigned kStartTick = 1000;
+
+png::Picture ScreenPicture() {
+    const CLQSurface* screen = CLQScreen::GetInstance()->GetScreenSurfHandle().GetSurface();
+    png::Picture picture;
+    picture.width = screen->GetWidth();
+    picture.height = screen->GetHeight();
+    const auto* row = static_cast<const unsigned char*>(screen->GetPixels());
+    for (int y = 0; y < picture.height; ++y, row += screen->GetPitch()) {
+        const auto* pixels = reinterpret_cast<const std::uint32_t*>(row);
+        picture.pixels.insert(picture.pixels.end(), pixels, pixels + picture.width);
+    }
+    return picture;
+}
 
 }  // namespace
 
@@ -97,12 +109,8 @@ void Tour::TakePicture(const std::string& name) {
         std::snprintf(number, sizeof number, "%02zu-", pictures_.size() + 1);
         path = folder_ + "/" + number + name + ".png";
     }
-    const CLQSurface* screen = CLQScreen::GetInstance()->GetScreenSurfHandle().GetSurface();
-    const auto* pixels = static_cast<const std::uint32_t*>(screen->GetPixels());
-    const auto stride = screen->GetPitch() / static_cast<std::ptrdiff_t>(sizeof *pixels);
     std::string reason;
-    if (tools::WritePng(path, pixels, stride, screen->GetWidth(), screen->GetHeight(), tools::PngAlpha::Drop,
-                        reason))
+    if (png::WritePng(path, ScreenPicture(), reason))
         pictures_.push_back(path);
     else
         failure_ = path + ": " + reason;
@@ -139,7 +147,7 @@ std::vector<TourStep> RadioTour() {
         picture("fm-tuned-by-hand"),
         press(kWheelX, 280),
         release(kWheelX, 160),
-        wait(2 * kTickMs),
+        wait(kStepMs + 2 * kTickMs),
         picture("fm-carry"),
         press(kWheelX, 224),
         release(kWheelX, 224),

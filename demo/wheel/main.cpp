@@ -4,22 +4,27 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
-#include <string>
 
 #include "KorvaneEx.h"
 
 namespace {
 
-/// Kilobytes resident, 0 where the system does not say.
+/// The wheel and its screen.
+constexpr int kWidth = 312;
+constexpr int kHeight = 212;
+
+/// Kilobytes resident, 0 where the system does not say. Without the standard library's streams, which would
+/// be resident themselves.
 long ResidentKilobytes() {
-    std::ifstream status("/proc/self/status");
-    std::string line;
-    while (std::getline(status, line)) {
-        if (line.compare(0, 6, "VmRSS:") == 0)
-            return std::strtol(line.c_str() + 6, nullptr, 10);
-    }
-    return 0;
+    std::FILE* status = std::fopen("/proc/self/status", "r");
+    if (!status)
+        return 0;
+    long kilobytes = 0;
+    char line[128];
+    while (kilobytes == 0 && std::fgets(line, sizeof line, status))
+        std::sscanf(line, "VmRSS: %ld", &kilobytes);
+    std::fclose(status);
+    return kilobytes;
 }
 
 long long NowNanoseconds() {
@@ -36,14 +41,14 @@ int main(int argc, char** argv) {
     const long long start = argc > 1 ? std::strtoll(argv[1], nullptr, 10) : NowNanoseconds();
 
     CLQScreen* screen = CLQScreen::GetInstance();
-    if (!screen->Open("memory", 800, 480, L"One wheel")) {
+    if (!screen->Open("memory", kWidth, kHeight, L"One wheel")) {
         std::fprintf(stderr, "wheel: cannot open the memory display\n");
         return 1;
     }
     CLQWindow window;
-    window.Create(0, 0, 800, 480);
+    window.Create(0, 0, kWidth, kHeight);
     CLQNumSlider wheel;
-    wheel.Create(248, 118, 312, 212);
+    wheel.Create(0, 0, kWidth, kHeight);
     wheel.SetFont(CLQFontManager::GetInstance()->GetDefaultFont());
     wheel.SetFontSize(72, 72);
     wheel.SetSeekUpGnd(L"SeekUp.lqi");
