@@ -41,7 +41,7 @@ std::int64_t Entry(long double trigonometric, float factor) {
     return std::llround(sine / (static_cast<double>(factor) * 16384.0));
 }
 
-std::int64_t FloorShift(std::int64_t value, int divisor) {
+std::int64_t FloorDivide(std::int64_t value, std::int64_t divisor) {
     return value >= 0 ? value / divisor : -((-value + divisor - 1) / divisor);
 }
 
@@ -79,30 +79,34 @@ Pixel Scaled(const korvane::kernels::Scaling& scaling, int x, int y) {
                 Lerp(lowerRow[across.index], lowerRow[right], across.weight), down.weight);
 }
 
-Pixel Rotated(const korvane::kernels::Rotation& rotation, int x, int y) {
+Turned::Turned(const korvane::kernels::Rotation& rotation) : rotation_(rotation) {
     const long double radians = static_cast<long double>(rotation.angle % 360) * kPi / 180.0L;
-    const std::int64_t dx = std::int64_t{x} - rotation.targetX;
-    const std::int64_t dy = std::int64_t{y} - rotation.targetY;
-    const std::int64_t u = std::int64_t{rotation.pivotX} * 65536 +
-                           Entry(std::cos(radians), rotation.scaleX) * dx +
-                           Entry(std::sin(radians), rotation.scaleX) * dy;
-    const std::int64_t v = std::int64_t{rotation.pivotY} * 65536 +
-                           Entry(-std::sin(radians), rotation.scaleY) * dx +
-                           Entry(std::cos(radians), rotation.scaleY) * dy;
-    const auto at = [&](std::int64_t column, std::int64_t row) -> Pixel {
-        const bool isInside =
-            column >= 0 && column < rotation.sourceWidth && row >= 0 && row < rotation.sourceHeight;
-        return isInside ? rotation.source[row * rotation.sourceStride + column] : 0;
-    };
-    if (rotation.filter == korvane::kernels::Filter::Nearest) {
-        return at(FloorShift(u + 32768, 65536), FloorShift(v + 32768, 65536));
+    cosineX_ = Entry(std::cos(radians), rotation.scaleX);
+    sineX_ = Entry(std::sin(radians), rotation.scaleX);
+    sineY_ = Entry(std::sin(radians), rotation.scaleY);
+    cosineY_ = Entry(std::cos(radians), rotation.scaleY);
+}
+
+Pixel Turned::SourceAt(std::int64_t column, std::int64_t row) const {
+    const bool isInside =
+        column >= 0 && column < rotation_.sourceWidth && row >= 0 && row < rotation_.sourceHeight;
+    return isInside ? rotation_.source[row * rotation_.sourceStride + column] : 0;
+}
+
+Pixel Turned::At(int x, int y) const {
+    const std::int64_t dx = std::int64_t{x} - rotation_.targetX;
+    const std::int64_t dy = std::int64_t{y} - rotation_.targetY;
+    const std::int64_t u = std::int64_t{rotation_.pivotX} * 65536 + cosineX_ * dx + sineX_ * dy;
+    const std::int64_t v = std::int64_t{rotation_.pivotY} * 65536 - sineY_ * dx + cosineY_ * dy;
+    if (rotation_.filter == korvane::kernels::Filter::Nearest) {
+        return SourceAt(FloorDivide(u + 32768, 65536), FloorDivide(v + 32768, 65536));
     }
-    const std::int64_t column = FloorShift(u, 65536);
-    const std::int64_t row = FloorShift(v, 65536);
+    const std::int64_t column = FloorDivide(u, 65536);
+    const std::int64_t row = FloorDivide(v, 65536);
     const auto weightX = static_cast<std::uint32_t>((u - column * 65536) / 256);
     const auto weightY = static_cast<std::uint32_t>((v - row * 65536) / 256);
-    return Lerp(Lerp(at(column, row), at(column + 1, row), weightX),
-                Lerp(at(column, row + 1), at(column + 1, row + 1), weightX), weightY);
+    return Lerp(Lerp(SourceAt(column, row), SourceAt(column + 1, row), weightX),
+                Lerp(SourceAt(column, row + 1), SourceAt(column + 1, row + 1), weightX), weightY);
 }
 
 }  // namespace reference

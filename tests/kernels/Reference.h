@@ -20,7 +20,22 @@ Pixel Lerp(Pixel a, Pixel b, std::uint32_t weight);
 /// Pixel (x, y) of the whole scaled block.
 Pixel Scaled(const korvane::kernels::Scaling& scaling, int x, int y);
 
-/// What the turned image puts over target pixel (x, y); 0 outside.
-Pixel Rotated(const korvane::kernels::Rotation& rotation, int x, int y);
+/// A turned image, asked pixel by pixel.
+class Turned {
+  public:
+    explicit Turned(const korvane::kernels::Rotation& rotation);
+
+    /// What it puts over target pixel (x, y); 0 outside.
+    Pixel At(int x, int y) const;
+
+  private:
+    Pixel SourceAt(std::int64_t column, std::int64_t row) const;
+
+    korvane::kernels::Rotation rotation_;
+    std::int64_t cosineX_;
+    std::int64_t sineX_;
+    std::int64_t sineY_;
+    std::int64_t cosineY_;
+};
 
 }  // namespace reference

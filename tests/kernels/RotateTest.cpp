@@ -35,9 +35,10 @@ Picture Drawn(const Picture& under, const kernels::Rotation& rotation, const ker
 
 Picture Expected(const Picture& under, const kernels::Rotation& rotation, const kernels::Box& clip) {
     Picture target = under;
+    const reference::Turned turned(rotation);
     for (int y = clip.y; y < clip.y + clip.height; ++y) {
         for (int x = clip.x; x < clip.x + clip.width; ++x) {
-            *target.At(x, y) = reference::Over(reference::Rotated(rotation, x, y), *target.At(x, y));
+            *target.At(x, y) = reference::Over(turned.At(x, y), *target.At(x, y));
         }
     }
     return target;

@@ -66,9 +66,9 @@ void OverRuns(Pixel* target, std::ptrdiff_t targetStride, const Pixel* image, st
 struct FillStep {
     Pixel* target;
     Pixel color;
-    template <class D, class Access>
-    HWY_INLINE void operator()(D d, const Access& access, std::size_t i) const {
-        access.Store(hn::Set(d, color), d, target + i);
+    template <class D, class Under>
+    HWY_INLINE void operator()(D d, std::size_t i, const Under& /*under*/) const {
+        hn::StoreU(hn::Set(d, color), d, target + i);
     }
 };
 
@@ -76,53 +76,35 @@ struct FillOverStep {
     Pixel* target;
     Pixel color;
     Pixel inverse;  ///< 255 - alpha in both halves.
-    template <class D, class Access>
-    HWY_INLINE void operator()(D d, const Access& access, std::size_t i) const {
-        const auto scaled = Scale(d, access.Load(d, target + i), hn::Set(d, inverse));
-        access.Store(AddPixels(d, hn::Set(d, color), scaled), d, target + i);
+    template <class D, class Under>
+    HWY_INLINE void operator()(D d, std::size_t i, const Under& under) const {
+        const auto scaled = Scale(d, under.Load(d, i), hn::Set(d, inverse));
+        hn::StoreU(AddPixels(d, hn::Set(d, color), scaled), d, target + i);
     }
 };
 
-/// An opaque colour through a mask. The mask is the alpha.
-struct OpaqueMaskStep {
+/// A colour through a mask. Through an opaque colour the mask itself is the alpha.
+template <bool kOpaque>
+struct MaskStep {
     Pixel* target;
     const std::uint8_t* mask;
     Pixel color;
-    template <class D, class Access>
-    HWY_INLINE void operator()(D d, const Access& access, std::size_t i) const {
+    template <class D, class Under>
+    HWY_INLINE void operator()(D d, std::size_t i, const Under& under) const {
         const hn::Repartition<std::uint16_t, D> d16;
-        const auto cover = access.LoadMask(d, mask + i);
-        if (hn::AllTrue(d, hn::Eq(cover, hn::Zero(d)))) {
-            return;
+        const auto covers = hn::PromoteTo(d, hn::LoadU(hn::Rebind<std::uint8_t, D>(), mask + i));
+        const auto cover = hn::BitCast(d16, hn::Or(covers, hn::ShiftLeft<16>(covers)));
+        auto alpha = cover;
+        if (!kOpaque) {
+            const auto full = hn::Set(d16, static_cast<std::uint16_t>(color >> 24));
+            alpha = Div255Lanes(d16, hn::Mul(cover, full));
         }
-        const auto spread = hn::Or(cover, hn::ShiftLeft<16>(cover));
-        Blend(d, access, i, hn::BitCast(d16, spread),
-              hn::BitCast(d16, hn::Xor(spread, hn::Set(d, plain::kPairs))));
-    }
-    template <class D, class Access, class V16>
-    HWY_INLINE void Blend(D d, const Access& access, std::size_t i, V16 cover, V16 inverse) const {
-        const hn::Repartition<std::uint16_t, D> d16;
+        const auto inverse = hn::Xor(alpha, hn::Set(d16, 255));
         const auto paint = Split(d, hn::Set(d, color));
-        const auto under = Split(d, access.Load(d, target + i));
-        const auto low = Div255Lanes(d16, hn::Add(hn::Mul(paint.low, cover), hn::Mul(under.low, inverse)));
-        const auto high = Div255Lanes(d16, hn::Add(hn::Mul(paint.high, cover), hn::Mul(under.high, inverse)));
-        access.Store(hn::BitCast(d, hn::Or(low, hn::ShiftLeft<8>(high))), d, target + i);
-    }
-};
-
-struct MaskStep {
-    OpaqueMaskStep inner;
-    template <class D, class Access>
-    HWY_INLINE void operator()(D d, const Access& access, std::size_t i) const {
-        const hn::Repartition<std::uint16_t, D> d16;
-        const auto cover = access.LoadMask(d, inner.mask + i);
-        if (hn::AllTrue(d, hn::Eq(cover, hn::Zero(d)))) {
-            return;
-        }
-        const auto spread = hn::BitCast(d16, hn::Or(cover, hn::ShiftLeft<16>(cover)));
-        const auto alpha =
-            Div255Lanes(d16, hn::Mul(spread, hn::Set(d16, static_cast<std::uint16_t>(inner.color >> 24))));
-        inner.Blend(d, access, i, spread, hn::Xor(alpha, hn::Set(d16, 255)));
+        const auto below = Split(d, under.Load(d, i));
+        const auto low = Div255Lanes(d16, hn::Add(hn::Mul(paint.low, cover), hn::Mul(below.low, inverse)));
+        const auto high = Div255Lanes(d16, hn::Add(hn::Mul(paint.high, cover), hn::Mul(below.high, inverse)));
+        hn::StoreU(hn::BitCast(d, hn::Or(low, hn::ShiftLeft<8>(high))), d, target + i);
     }
 };
 
@@ -134,12 +116,9 @@ HWY_INLINE void FillOverSpan(Pixel* target, Pixel color, std::size_t count) {
     ForRow(FillOverStep{target, color, (255U - (color >> 24)) * 0x00010001U}, count);
 }
 
+template <bool kOpaque>
 HWY_INLINE void MaskOverSpan(Pixel* target, const std::uint8_t* mask, Pixel color, std::size_t count) {
-    if (color >= 0xFF000000U) {
-        ForRow(OpaqueMaskStep{target, mask, color}, count);
-    } else {
-        ForRow(MaskStep{{target, mask, color}}, count);
-    }
+    ForRow(MaskStep<kOpaque>{target, mask, color}, count);
 }
 
 #else  // KORVANE_PLAIN
@@ -156,6 +135,7 @@ HWY_INLINE void FillOverSpan(Pixel* target, Pixel color, std::size_t count) {
     }
 }
 
+template <bool kOpaque>
 HWY_INLINE void MaskOverSpan(Pixel* target, const std::uint8_t* mask, Pixel color, std::size_t count) {
     for (std::size_t i = 0; i < count; ++i) {
         if (mask[i] != 0) {
@@ -180,12 +160,22 @@ void FillOverBlock(Pixel* target, std::ptrdiff_t targetStride, Pixel color, int 
     }
 }
 
-void MaskOverBlock(Pixel* target, std::ptrdiff_t targetStride, const std::uint8_t* mask,
-                   std::ptrdiff_t maskStride, Pixel color, int width, int height) {
+template <bool kOpaque>
+HWY_INLINE void MaskOverRows(Pixel* target, std::ptrdiff_t targetStride, const std::uint8_t* mask,
+                             std::ptrdiff_t maskStride, Pixel color, int width, int height) {
     for (int y = 0; y < height; ++y) {
-        MaskOverSpan(target, mask, color, static_cast<std::size_t>(width));
+        MaskOverSpan<kOpaque>(target, mask, color, static_cast<std::size_t>(width));
         target += targetStride;
         mask += maskStride;
+    }
+}
+
+void MaskOverBlock(Pixel* target, std::ptrdiff_t targetStride, const std::uint8_t* mask,
+                   std::ptrdiff_t maskStride, Pixel color, int width, int height) {
+    if (color >= 0xFF000000U) {
+        MaskOverRows<true>(target, targetStride, mask, maskStride, color, width, height);
+    } else {
+        MaskOverRows<false>(target, targetStride, mask, maskStride, color, width, height);
     }
 }
 

@@ -2,7 +2,7 @@
 
 #undef HWY_TARGET_INCLUDE
 #define HWY_TARGET_INCLUDE "engine/draw/kernels/Kernels.cpp"
-// foreach_target.h compiles the rest of this file once per target, so it comes before the others.
+// foreach_target.h compiles this file once per target and so comes before the others.
 // clang-format off
 #include <hwy/foreach_target.h>
 #include <hwy/highway.h>

@@ -86,8 +86,8 @@ enum class Filter { Nearest, Bilinear };
 /// image the source is transparent, which smooths the edges under the bilinear filter.
 struct Rotation {
     const Pixel* source = nullptr;
-    std::ptrdiff_t sourceStride = 0;
-    int sourceWidth = 0;  ///< 1..kLargestSide, as is the height.
+    std::ptrdiff_t sourceStride = 0;  ///< At most 4 * kLargestSide.
+    int sourceWidth = 0;              ///< 1..kLargestSide, as is the height.
     int sourceHeight = 0;
     int pivotX = 0;  ///< May lie outside the source.
     int pivotY = 0;

@@ -21,10 +21,6 @@
 #define KORVANE_PLAIN 0
 #endif
 
-// Masked loads and stores of any lane that cost no more than whole ones.
-#undef KORVANE_MASKED
-#define KORVANE_MASKED (HWY_TARGET == HWY_AVX3)
-
 HWY_BEFORE_NAMESPACE();
 namespace korvane::kernels::HWY_NAMESPACE {
 
@@ -38,77 +34,42 @@ using Pixels = hn::Vec<D>;
 
 constexpr std::size_t kLanes = hn::MaxLanes(Lanes());
 
-/// Moves all lanes.
-struct WholeAccess {
+/// Where a step finds the target's pixels: in memory,
+struct InPlace {
+    const Pixel* target;
     template <class D>
-    HWY_INLINE Pixels<D> Load(D d, const Pixel* from) const {
-        return hn::LoadU(d, from);
-    }
-    template <class D>
-    HWY_INLINE Pixels<D> LoadMask(D d, const std::uint8_t* from) const {
-        return hn::PromoteTo(d, hn::LoadU(hn::Rebind<std::uint8_t, D>(), from));
-    }
-    template <class D>
-    HWY_INLINE void Store(Pixels<D> pixels, D d, Pixel* to) const {
-        hn::StoreU(pixels, d, to);
+    HWY_INLINE Pixels<D> Load(D d, std::size_t index) const {
+        return hn::LoadU(d, target + index);
     }
 };
 
-#if KORVANE_MASKED
-/// Moves the first lanes; the others read as 0 and touch no memory.
-class FirstAccess {
-  public:
-    explicit FirstAccess(std::size_t count) : count_(count) {}
-
-    template <class D>
-    HWY_INLINE Pixels<D> Load(D d, const Pixel* from) const {
-        return hn::MaskedLoad(hn::FirstN(d, count_), d, from);
-    }
-    template <class D>
-    HWY_INLINE Pixels<D> LoadMask(D d, const std::uint8_t* from) const {
-        const hn::Rebind<std::uint8_t, D> bytes;
-        return hn::PromoteTo(d, hn::MaskedLoad(hn::FirstN(bytes, count_), bytes, from));
-    }
-    template <class D>
-    HWY_INLINE void Store(Pixels<D> pixels, D d, Pixel* to) const {
-        hn::BlendedStore(pixels, hn::FirstN(d, count_), d, to);
-    }
-
-  private:
-    std::size_t count_;
+/// or as they were before an earlier step stored over some of them.
+template <class D>
+struct Kept {
+    Pixels<D> pixels;
+    HWY_INLINE Pixels<D> Load(D /*d*/, std::size_t /*index*/) const { return pixels; }
 };
-#endif
 
-/// Calls step(tag, access, index) for the rest of a row that is shorter than a vector.
-template <class Step>
-HWY_INLINE void ForRest(const Step& step, std::size_t index, std::size_t count) {
-#if KORVANE_MASKED
-    if (index < count) {
-        step(Lanes(), FirstAccess(count - index), index);
+/// Calls step(tag, index, under) for all pixels of a row, a vector at a time. The last vector of a row ends
+/// where the row ends and may overlap the one before: it takes the target's old pixels too, so both come to
+/// the same result. A row shorter than a vector goes the same way with shorter ones.
+template <class Step, class D = Lanes>
+HWY_INLINE void ForRow(const Step& step, std::size_t count, D d = D()) {
+    constexpr std::size_t lanes = hn::MaxLanes(D());
+    const InPlace inPlace{step.target};
+    if (count >= lanes) {
+        const std::size_t last = count - lanes;
+        const Kept<D> kept{inPlace.Load(d, last)};
+        std::size_t index = 0;
+        for (; index <= last; index += lanes) {
+            step(d, index, inPlace);
+        }
+        if (index < count) {
+            step(d, last, kept);
+        }
+    } else if constexpr (lanes > 1) {
+        ForRow(step, count, hn::CappedTag<Pixel, lanes / 2>());
     }
-#else
-    if (kLanes > 4 && count - index >= 4) {
-        step(hn::CappedTag<Pixel, 4>(), WholeAccess(), index);
-        index += 4;
-    }
-    if (count - index >= 2) {
-        step(hn::CappedTag<Pixel, 2>(), WholeAccess(), index);
-        index += 2;
-    }
-    if (index < count) {
-        step(hn::CappedTag<Pixel, 1>(), WholeAccess(), index);
-    }
-#endif
-}
-
-/// Calls step(tag, access, index) for all pixels of a row, a vector at a time.
-template <class Step>
-HWY_INLINE void ForRow(const Step& step, std::size_t count) {
-    std::size_t index = 0;
-    for (; index + kLanes <= count; index += kLanes) {
-        step(Lanes(), WholeAccess(), index);
-    }
-    ForRest(step, index, count);
 }
 
 /// 16-bit lanes hold x in 0..65407; gives Div255(x).
@@ -232,9 +193,9 @@ HWY_INLINE Neighbours<D> LoadNeighbours(D d, const Pixel* base, const std::int32
 struct CopyStep {
     Pixel* target;
     const Pixel* source;
-    template <class D, class Access>
-    HWY_INLINE void operator()(D d, const Access& access, std::size_t i) const {
-        access.Store(access.Load(d, source + i), d, target + i);
+    template <class D, class Under>
+    HWY_INLINE void operator()(D d, std::size_t i, const Under& /*under*/) const {
+        hn::StoreU(hn::LoadU(d, source + i), d, target + i);
     }
 };
 
@@ -242,9 +203,9 @@ struct CopyStep {
 struct BlendStep {
     Pixel* target;
     const Pixel* source;
-    template <class D, class Access>
-    HWY_INLINE void operator()(D d, const Access& access, std::size_t i) const {
-        access.Store(Over(d, access.Load(d, source + i), access.Load(d, target + i)), d, target + i);
+    template <class D, class Under>
+    HWY_INLINE void operator()(D d, std::size_t i, const Under& under) const {
+        hn::StoreU(Over(d, hn::LoadU(d, source + i), under.Load(d, i)), d, target + i);
     }
 };
 
@@ -252,18 +213,18 @@ struct BlendStep {
 struct OverStep {
     Pixel* target;
     const Pixel* source;
-    template <class D, class Access>
-    HWY_INLINE void operator()(D d, const Access& access, std::size_t i) const {
-        const auto pixels = access.Load(d, source + i);
+    template <class D, class Under>
+    HWY_INLINE void operator()(D d, std::size_t i, const Under& under) const {
+        const auto pixels = hn::LoadU(d, source + i);
         if (hn::AllTrue(d, hn::Eq(pixels, hn::Zero(d)))) {
             return;
         }
         const auto alpha = hn::Set(d, 0xFF000000U);
         if (hn::AllTrue(d, hn::Eq(hn::And(pixels, alpha), alpha))) {
-            access.Store(pixels, d, target + i);
+            hn::StoreU(pixels, d, target + i);
             return;
         }
-        access.Store(Over(d, pixels, access.Load(d, target + i)), d, target + i);
+        hn::StoreU(Over(d, pixels, under.Load(d, i)), d, target + i);
     }
 };
 

@@ -6,9 +6,11 @@ namespace korvane::kernels {
 namespace {
 
 /// An empty or solid stretch shorter than this costs more to treat apart than to blend.
-constexpr int kShortestApart = 12;
+constexpr int kShortestApart = 16;
 /// Soft runs grow into their right neighbour up to a multiple of this, so that they end on whole vectors.
 constexpr int kSoftGrain = 8;
+/// In a narrow image the way along the runs costs more than it spares.
+constexpr int kNarrow = 64;
 /// Runs pay when at least one pixel in this many is not blended.
 constexpr std::size_t kWorthOneIn = 16;
 
@@ -92,6 +94,9 @@ RunTable BuildRuns(const std::uint32_t* pixels, std::ptrdiff_t stride, int width
     if (isEmpty || isSolid) {
         table.coverage = isEmpty ? Coverage::Empty : Coverage::Solid;
         return table;
+    }
+    if (width < kNarrow) {
+        return RunTable{};
     }
     std::size_t blended = 0;
     table.rows.reserve(static_cast<std::size_t>(height));

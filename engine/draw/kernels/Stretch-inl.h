@@ -127,11 +127,11 @@ struct MixStep {
     const Pixel* upper;
     const Pixel* lower;
     std::uint32_t weight;
-    template <class D, class Access>
-    HWY_INLINE void operator()(D d, const Access& access, std::size_t i) const {
-        const auto a = Split(d, access.Load(d, upper + i));
-        const auto b = Split(d, access.Load(d, lower + i));
-        access.Store(LerpPixels(d, a, b, hn::Set(d, weight * 0x00010001U)), d, target + i);
+    template <class D, class Under>
+    HWY_INLINE void operator()(D d, std::size_t i, const Under& /*under*/) const {
+        const auto a = Split(d, hn::LoadU(d, upper + i));
+        const auto b = Split(d, hn::LoadU(d, lower + i));
+        hn::StoreU(LerpPixels(d, a, b, hn::Set(d, weight * 0x00010001U)), d, target + i);
     }
 };
 
@@ -139,12 +139,12 @@ struct MeanStep {
     Pixel* target;
     const Pixel* upper;
     const Pixel* lower;
-    template <class D, class Access>
-    HWY_INLINE void operator()(D d, const Access& access, std::size_t i) const {
+    template <class D, class Under>
+    HWY_INLINE void operator()(D d, std::size_t i, const Under& /*under*/) const {
         const hn::Repartition<std::uint8_t, D> d8;
-        const auto mean = hn::AverageRound(hn::BitCast(d8, access.Load(d, upper + i)),
-                                           hn::BitCast(d8, access.Load(d, lower + i)));
-        access.Store(hn::BitCast(d, mean), d, target + i);
+        const auto mean = hn::AverageRound(hn::BitCast(d8, hn::LoadU(d, upper + i)),
+                                           hn::BitCast(d8, hn::LoadU(d, lower + i)));
+        hn::StoreU(hn::BitCast(d, mean), d, target + i);
     }
 };
 
