@@ -32,8 +32,8 @@ class InkPainter {
         const std::int64_t right = std::min<std::int64_t>(x + mask.width, bounds_.right);
         const std::int64_t bottom = std::min<std::int64_t>(y + mask.height, bounds_.bottom);
         if (left < right && top < bottom) {
-            const std::uint8_t* coverage = mask.coverage.data() + (top - y) * mask.width + (left - x);
-            korvane::BlendMask(surface_, coverage, mask.width, static_cast<int>(left), static_cast<int>(top),
+            const std::uint8_t* coverage = mask.Row(static_cast<int>(top - y)) + (left - x);
+            korvane::BlendMask(surface_, coverage, mask.stride, static_cast<int>(left), static_cast<int>(top),
                                static_cast<int>(right - left), static_cast<int>(bottom - top), color_);
         }
     }

@@ -19,17 +19,16 @@ std::wstring_view Line(const wchar_t* text) {
 }  // namespace
 
 int TextEngine::Measure(const wchar_t* text, FaceId face, PixelSize size) {
-    if (const NumberLayout::Line* number = numbers_.Place(text, face, size))
-        return number->width;
+    int width = 0;
+    if (numbers_.Measure(text, face, size, width))
+        return width;
     return runs_.Get(Line(text), face, size).width;
 }
 
 LaidOutLine TextEngine::LayOut(const wchar_t* text, FaceId face, PixelSize size) {
     LaidOutLine line;
-    if (const NumberLayout::Line* number = numbers_.Place(text, face, size)) {
-        line.width = number->width;
-        line.glyphs = number->glyphs.data();
-        line.glyphCount = number->count;
+    if (const GlyphMask* number = numbers_.Join(text, face, size, line.width)) {
+        line.mask = number;
         return line;
     }
     const TextRun& run = runs_.GetForDrawing(Line(text), face, size);

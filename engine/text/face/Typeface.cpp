@@ -117,14 +117,11 @@ GlyphMask Typeface::Rasterise(std::uint32_t glyph, PixelSize size, int phase) {
         return mask;
     mask.left = slot->bitmap_left;
     mask.top = -slot->bitmap_top;
-    mask.width = static_cast<int>(slot->bitmap.width);
-    mask.height = static_cast<int>(slot->bitmap.rows);
-    const std::size_t rowBytes = slot->bitmap.width;
-    mask.coverage.resize(rowBytes * slot->bitmap.rows);
-    for (int row = 0; row < mask.height && rowBytes > 0; ++row) {
-        std::memcpy(mask.coverage.data() + rowBytes * static_cast<std::size_t>(row),
-                    slot->bitmap.buffer + static_cast<std::ptrdiff_t>(row) * slot->bitmap.pitch, rowBytes);
-    }
+    mask.Clear(static_cast<int>(slot->bitmap.width), static_cast<int>(slot->bitmap.rows));
+    for (int row = 0; row < mask.height && mask.width > 0; ++row)
+        std::memcpy(mask.Row(row),
+                    slot->bitmap.buffer + static_cast<std::ptrdiff_t>(row) * slot->bitmap.pitch,
+                    slot->bitmap.width);
     return mask;
 }
 

@@ -11,18 +11,16 @@ int MissingBoxAdvance(PixelSize size) {
 
 GlyphMask RasteriseMissingBox(PixelSize size) {
     GlyphMask box;
-    box.width = std::max(1, size.width / 2);
-    box.height = std::max(1, size.height * 7 / 10);
+    box.Clear(std::max(1, size.width / 2), std::max(1, size.height * 7 / 10));
     box.left = (MissingBoxAdvance(size) - box.width) / 2;
     box.top = -box.height;
     const int strokeX = std::max(1, size.width / 16);
     const int strokeY = std::max(1, size.height / 16);
-    box.coverage.reserve(static_cast<std::size_t>(box.width) * static_cast<std::size_t>(box.height));
     for (int y = 0; y < box.height; ++y) {
         for (int x = 0; x < box.width; ++x) {
             const bool isInside =
                 x >= strokeX && x < box.width - strokeX && y >= strokeY && y < box.height - strokeY;
-            box.coverage.push_back(isInside ? 0 : 255);
+            box.Row(y)[x] = isInside ? 0 : 255;
         }
     }
     return box;

@@ -1,9 +1,13 @@
 #include "engine/text/shape/NumberLayout.h"
 
 #include <algorithm>
+#include <climits>
+#include <cstring>
 #include <hb.h>
 #include <memory>
 #include <string>
+
+#include "engine/text/shape/InkJoiner.h"
 
 namespace korvane {
 
@@ -35,6 +39,23 @@ struct DestroyBuffer {
 };
 using Buffer = std::unique_ptr<hb_buffer_t, DestroyBuffer>;
 
+/// Cells of larger sizes would take too much memory.
+constexpr int kLargestSize = 128;
+
+/// In 1/64 pixel; two ems at the largest size. No honest digit is wider.
+constexpr int kLargestAdvance = 2 * kMaxFontSize * 64;
+
+/// Writes up to GlyphMask::kRowUnit - 1 zeros behind each row: numbers are put together from left to right.
+void CopyRows(const GlyphMask& ink, std::uint8_t* to, int stride) {
+    const std::uint8_t* from = ink.coverage.data();
+    for (int row = 0; row < ink.height; ++row) {
+        for (int done = 0; done < ink.stride; done += GlyphMask::kRowUnit)
+            std::memcpy(to + done, from + done, GlyphMask::kRowUnit);
+        from += ink.stride;
+        to += stride;
+    }
+}
+
 struct ShapedGlyph {
     std::uint32_t glyph = 0;
     int advance = 0;  ///< in 1/64 pixel
@@ -59,8 +80,9 @@ std::vector<ShapedGlyph> ShapeNumber(hb_buffer_t* buffer, hb_font_t* font, const
     for (unsigned i = 0; i < count; ++i) {
         shaped[i].glyph = infos[i].codepoint;
         shaped[i].advance = positions[i].x_advance;
-        shaped[i].isInPlace =
-            infos[i].cluster == i && positions[i].x_offset == 0 && positions[i].y_offset == 0;
+        shaped[i].isInPlace = infos[i].cluster == i && positions[i].x_offset == 0 &&
+                              positions[i].y_offset == 0 && positions[i].x_advance > 0 &&
+                              positions[i].x_advance <= kLargestAdvance;
     }
     return shaped;
 }
@@ -82,33 +104,63 @@ std::array<ShapedGlyph, NumberLayout::kCharacters> ShapeEach(hb_font_t* font) {
 
 NumberLayout::NumberLayout(FontIndex& index) : index_(index) {}
 
-const NumberLayout::Line* NumberLayout::Place(const wchar_t* text, FaceId face, PixelSize size) {
-    std::array<std::uint8_t, kMaxLength> slots;
+bool NumberLayout::Measure(const wchar_t* text, FaceId face, PixelSize size, int& width) {
+    Number number;
+    if (!Read(text, face, number))
+        return false;
+    const SizeTable& table = TableOfSize(face, size);
+    width = 0;
+    for (std::size_t i = 0; i < number.length; ++i)
+        width += table.advances[number.slots[i]];
+    return true;
+}
+
+const GlyphMask* NumberLayout::Join(const wchar_t* text, FaceId face, PixelSize size, int& width) {
+    Number number;
+    if (std::max(size.width, size.height) > kLargestSize || !Read(text, face, number))
+        return nullptr;
+    SizeTable& table = TableOfSize(face, size);
+    int total = 0;
+    int top = INT_MAX;
+    int bottom = INT_MIN;
+    for (std::size_t i = 0; i < number.length; ++i) {
+        const Cell& cell = CellOf(table, number.slots[i]);
+        if (cell.overhangs)
+            return nullptr;
+        total += cell.ink.width;
+        top = std::min(top, cell.ink.top);
+        bottom = std::max(bottom, cell.ink.top + cell.ink.height);
+    }
+    if (total * (bottom - top) > kLargestJoinedMask)
+        return nullptr;
+    joined_.top = top;
+    joined_.Clear(total, bottom - top, GlyphMask::kRowUnit);
+    int x = 0;
+    for (std::size_t i = 0; i < number.length; ++i) {
+        const GlyphMask& ink = table.cells[number.slots[i]].ink;
+        CopyRows(ink, joined_.Row(ink.top - top) + x, joined_.stride);
+        x += ink.width;
+    }
+    width = total;
+    return &joined_;
+}
+
+bool NumberLayout::Read(const wchar_t* text, FaceId face, Number& number) {
     std::size_t length = 0;
     for (; text[length] != L'\0'; ++length) {
         const std::uint8_t slot = SlotOf(text[length]);
-        if (slot == kNoSlot || length == kMaxLength)
-            return nullptr;
-        slots[length] = slot;
+        if (slot == kNoSlot || length == Number::kMaxLength)
+            return false;
+        number.slots[length] = slot;
     }
+    number.length = length;
     if (length == 0 || index_.Open(face) == nullptr)
-        return nullptr;
-    const FaceTable& faceTable = TableOfFace(face);
-    const SizeTable& sizeTable = TableOfSize(face, size);
-    int pen = 0;
-    for (std::size_t i = 0; i < length; ++i) {
-        const std::size_t next = i + 1 < length ? slots[i + 1] : slots[i];
-        if (!faceTable.simplePairs[slots[i] * kCharacters + next])
-            return nullptr;
-        PlacedGlyph& placed = line_.glyphs[i];
-        placed.x = pen;
-        placed.glyph = faceTable.glyphs[slots[i]];
-        placed.face = static_cast<std::int16_t>(face);
-        pen += sizeTable.advances[slots[i]];
-    }
-    line_.count = length;
-    line_.width = pen;
-    return &line_;
+        return false;
+    const FaceTable& table = TableOfFace(face);
+    bool isSimple = table.simplePairs[number.slots[length - 1] * kCharacters + number.slots[length - 1]];
+    for (std::size_t i = 0; i + 1 < length; ++i)
+        isSimple = isSimple && table.simplePairs[number.slots[i] * kCharacters + number.slots[i + 1]];
+    return isSimple;
 }
 
 const NumberLayout::FaceTable& NumberLayout::TableOfFace(FaceId face) {
@@ -147,7 +199,7 @@ const NumberLayout::FaceTable& NumberLayout::TableOfFace(FaceId face) {
     return faces_.back();
 }
 
-const NumberLayout::SizeTable& NumberLayout::TableOfSize(FaceId face, PixelSize size) {
+NumberLayout::SizeTable& NumberLayout::TableOfSize(FaceId face, PixelSize size) {
     const auto fits = [face, size](const SizeTable& table) {
         return table.face == face && table.size == size;
     };
@@ -161,12 +213,30 @@ const NumberLayout::SizeTable& NumberLayout::TableOfSize(FaceId face, PixelSize 
     lastSize_ = nextSize_;
     nextSize_ = (nextSize_ + 1) % sizes_.size();
     SizeTable& table = sizes_[lastSize_];
+    table = SizeTable();
     table.face = face;
     table.size = size;
     const std::array<ShapedGlyph, kCharacters> each = ShapeEach(index_.Open(face)->ShapingFont(size));
     std::transform(each.begin(), each.end(), table.advances.begin(),
                    [](const ShapedGlyph& glyph) { return (glyph.advance + 32) >> 6; });
     return table;
+}
+
+const NumberLayout::Cell& NumberLayout::CellOf(SizeTable& table, std::uint8_t slot) {
+    Cell& cell = table.cells[slot];
+    if (cell.isKnown)
+        return cell;
+    const GlyphMask ink =
+        index_.Open(table.face)->Rasterise(TableOfFace(table.face).glyphs[slot], table.size, 0);
+    cell.isKnown = true;
+    cell.overhangs = ink.left < 0 || ink.left + ink.width > table.advances[slot];
+    if (!cell.overhangs) {
+        cell.ink.top = ink.top;
+        cell.ink.Clear(table.advances[slot], ink.height);
+        for (int row = 0; row < ink.height; ++row)
+            std::copy_n(ink.Row(row), ink.width, cell.ink.Row(row) + ink.left);
+    }
+    return cell;
 }
 
 }  // namespace korvane

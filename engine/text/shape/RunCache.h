@@ -38,7 +38,6 @@ class RunCache {
     };
 
     Entry& GetEntry(std::wstring_view text, FaceId primary, PixelSize size);
-    void JoinInk(TextRun& run, PixelSize size);
 
     Shaper shaper_;
     GlyphCache& glyphs_;
