@@ -22,7 +22,8 @@ class KORVANE_API CLQTimer {
     CLQTimer& operator=(const CLQTimer& other);
     ~CLQTimer();
 
-    /// Period in milliseconds; below 1 counts as 1. A running timer goes on with the new period, from now.
+    /// Period in milliseconds; the system runs no timer faster than every 10. A running timer goes on with
+    /// the new period, from now.
     void SetTimer(int period);
     /// `handler` is a member function of the target with the parameters (void*, int), cast to this type.
     void SetCallBack(CLQWnd* target, void (CLQWnd::*handler)());

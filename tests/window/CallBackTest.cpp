@@ -7,7 +7,6 @@ namespace {
 
 class Source : public CLQBaseCtrl {
   public:
-    using CLQBaseCtrl::FireEvent;
     bool Fire(int event) { return FireEvent(event); }
     bool FirePointer(int event, void* data) { return FireEvent(event, data); }
     bool FireIndex(int event, int index) { return FireEvent(event, index); }

@@ -55,8 +55,9 @@ TEST_F(Repaint, TouchesTheMarkedRectangleAndNoOtherPixel) {
         for (int x = 0; x < 800; ++x) {
             const bool inside = x >= 100 && x < 300 && y >= 100 && y < 200;
             const auto at = static_cast<std::size_t>(y * 800 + x);
-            if (!inside)
+            if (!inside) {
                 ASSERT_EQ(before[at], after[at]) << x << ", " << y;
+            }
         }
     }
     EXPECT_EQ(screen->GetCounters().paintedPixels, 200U * 100U);
