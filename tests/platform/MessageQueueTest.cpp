@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <random>
 
 #include "tests/platform/TestWindow.h"
 
@@ -108,6 +110,41 @@ TEST(MessageQueue, ReportsAWindowThatDoesNotExist) {
     EXPECT_FALSE(PeekMessageW(&message, dead, 0, 0, PM_REMOVE));
     EXPECT_FALSE(PostMessageW(dead, WM_APP, 0, 0));
     EXPECT_EQ(SendMessageW(dead, WM_APP, 0, 0), 0);
+}
+
+TEST(MessageQueue, AgreesWithAPlainListUnderRandomUse) {
+    struct Entry {
+        HWND window;
+        UINT number;
+        WPARAM serial;
+    };
+    const TestWindow windows[3];
+    std::vector<Entry> expected;
+    std::mt19937 random(20240229);
+    const auto below = [&random](unsigned limit) { return static_cast<UINT>(random() % limit); };
+    WPARAM serial = 0;
+    for (int step = 0; step < 20000; ++step) {
+        const HWND window = windows[below(3)].Handle();
+        if (below(100) < 52) {
+            expected.push_back({window, WM_APP + below(6), ++serial});
+            ASSERT_TRUE(PostMessageW(window, expected.back().number, serial, 0));
+            continue;
+        }
+        const HWND wanted = below(2) == 0 ? window : nullptr;
+        const UINT first = WM_APP + below(6);
+        const UINT last = first + below(3);
+        const auto fits = [&](const Entry& entry) {
+            return (!wanted || entry.window == wanted) && entry.number >= first && entry.number <= last;
+        };
+        const auto found = std::find_if(expected.begin(), expected.end(), fits);
+        MSG message{};
+        ASSERT_EQ(Take(message, wanted, first, last), found != expected.end());
+        if (found == expected.end())
+            continue;
+        ASSERT_EQ(message.wParam, found->serial);
+        expected.erase(found);
+    }
+    DrainQueue();
 }
 
 TEST(MessageQueue, StampsAMessageWithTheTimeOfItsPosting) {

@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <chrono>
+#include <dirent.h>
 #include <limits>
-#include <sys/stat.h>
+#include <memory>
 #include <thread>
 
 #include "platform/Simulation.h"
@@ -20,9 +21,12 @@ int MillisecondsUntil(SteadyClock::time_point deadline) {
 }
 
 bool OtherThreadsExist() {
-    // Each thread is a folder in this one, which counts it as a link besides its own two.
-    struct stat tasks {};
-    return stat("/proc/self/task", &tasks) == 0 && tasks.st_nlink > 3;
+    // One entry a thread, besides "." and "..".
+    const std::unique_ptr<DIR, int (*)(DIR*)> threads(opendir("/proc/self/task"), &closedir);
+    int entries = 0;
+    while (threads && readdir(threads.get()))
+        ++entries;
+    return entries > 3;
 }
 
 // Marks the queue as inside its idle handler for as long as it lives.

@@ -1,0 +1,34 @@
+#include "tests/platform/AllocationCount.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+std::atomic<int> allocations{0};
+
+}  // namespace
+
+namespace korvane {
+
+int AllocationCount() {
+    return allocations;
+}
+
+}  // namespace korvane
+
+// Apart from what they count, so that the compiler does not see that new is malloc.
+
+void* operator new(std::size_t size) {
+    ++allocations;
+    if (void* const memory = std::malloc(size == 0 ? 1 : size))
+        return memory;
+    throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
