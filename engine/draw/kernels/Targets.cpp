@@ -1,5 +1,6 @@
 #include "engine/draw/kernels/Targets.h"
 
+#include <algorithm>
 #include <hwy/highway.h>
 
 #include "engine/draw/kernels/KernelTable.h"
@@ -8,11 +9,10 @@ namespace korvane::kernels {
 
 std::vector<std::int64_t> AvailableTargets() {
     std::vector<std::int64_t> targets = hwy::SupportedAndGeneratedTargets();
-#if HWY_TARGETS & HWY_SCALAR
-    if (targets.empty() || targets.back() != HWY_SCALAR) {
-        targets.push_back(HWY_SCALAR);
+    // The fallback that every machine can run need not be reported as supported.
+    if (std::find(targets.begin(), targets.end(), HWY_STATIC_TARGET) == targets.end()) {
+        targets.push_back(HWY_STATIC_TARGET);
     }
-#endif
     return targets;
 }
 
