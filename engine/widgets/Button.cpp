@@ -147,38 +147,43 @@ void CLQButton::Draw(CLQSurfHandle& target) {
         Redraw(false);
 }
 
+/// Makes the element at that place, or behind the last one, a new one of the type unless it is of that type.
+void CLQButton::PlaceElement(int index, bool isText) {
+    std::unique_ptr<CLQGUIElement> element;
+    if (isText)
+        element = std::make_unique<CLQTextElement>();
+    else
+        element = std::make_unique<CLQImageElement>();
+    element->SetFatherCtrl(this);
+    if (index >= GetGUIElementCount())
+        m_elements.push_back(std::move(element));
+    else if (m_elements[index]->GetGUIElementType() != element->GetGUIElementType())
+        m_elements[index] = std::move(element);
+}
+
 void CLQButton::ExchangeLayout(korvane::LayoutArchive& archive) {
     CLQBaseCtrl::ExchangeLayout(archive);
     static const std::wstring kImage = L"image";
     static const std::wstring kText = L"text";
-    int count = GetGUIElementCount();
-    archive.Number(L"elements", count, [&count](int stored) { count = std::clamp(stored, 1, kMaxElements); });
-    for (int i = 0; i < (archive.IsLoading() ? kMaxElements : count); ++i) {
+    int limit = kMaxElements;
+    archive.Number(L"elements", GetGUIElementCount(), [&limit](int count) {
+        // The first element is always there.
+        limit = std::clamp(count, 1, kMaxElements);
+    });
+    const int count = archive.IsLoading() ? limit : GetGUIElementCount();
+    for (int i = 0; i < count; ++i) {
         archive.SetPrefix(L"element" + std::to_wstring(i) + L".");
-        const bool isText =
-            i < GetGUIElementCount() && m_elements[i]->GetGUIElementType() == eGUIElement_Text;
-        archive.Text(L"type", isText ? kText : kImage, [this, i, isText](const std::wstring& type) {
-            if (i < GetGUIElementCount() && (type == kText) == isText)
-                return;
-            std::unique_ptr<CLQGUIElement> element;
-            if (type == kText)
-                element = std::make_unique<CLQTextElement>();
-            else
-                element = std::make_unique<CLQImageElement>();
-            Append(std::move(element));
-            // The new one takes the place of the element of the other type.
-            if (i + 1 < GetGUIElementCount()) {
-                std::swap(m_elements[i], m_elements.back());
-                m_elements.pop_back();
-            }
-        });
+        const CLQGUIElement* element = GetGUIElement(i);
+        const bool isText = element && element->GetGUIElementType() == eGUIElement_Text;
+        archive.Text(L"type", isText ? kText : kImage,
+                     [this, i](const std::wstring& type) { PlaceElement(i, type == kText); });
         if (i >= GetGUIElementCount())
             break;
         m_elements[i]->ExchangeLayout(archive);
     }
     archive.SetPrefix(std::wstring());
-    if (archive.IsLoading() && GetGUIElementCount() > count)
-        m_elements.resize(count);
+    if (GetGUIElementCount() > limit)
+        m_elements.resize(limit);
 }
 
 bool CLQButton::LoadCtrlFromIni(CLQIniReadWrite& ini, const wchar_t* section) {

@@ -54,6 +54,7 @@ class KORVANE_API CLQButton : public CLQBaseCtrl {
 
   private:
     void Append(std::unique_ptr<CLQGUIElement> element);
+    void PlaceElement(int index, bool isText);
     CLQTextElement* FindCaption() const;
     CLQTextElement* Caption();
     _eImageType Look() const;
