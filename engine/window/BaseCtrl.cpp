@@ -1,5 +1,7 @@
 #include "engine/window/BaseCtrl.h"
 
+#include <algorithm>
+
 #include "engine/window/DrawShift.h"
 #include "engine/window/GroupCtrl.h"
 #include "engine/window/Window.h"
@@ -143,7 +145,7 @@ bool CLQBaseCtrl::CheckPoint(int x, int y) {
     int left;
     int top;
     GetScreenXY(left, top);
-    return x >= left && x - left < m_nWidth && y >= top && y - top < m_nHeight;
+    return x >= left && x < left + m_nWidth && y >= top && y < top + m_nHeight;
 }
 
 void CLQBaseCtrl::Invalidate() {
@@ -175,7 +177,9 @@ void CLQBaseCtrl::DrawBaseCtrl(CLQSurfHandle& target, int x, int y) {
     int left;
     int top;
     GetScreenXY(left, top);
-    const korvane::DrawShift shift(*surface, x - left, y - top);
+    const int toX = std::clamp(x, -korvane::kMaxPosition, korvane::kMaxPosition);
+    const int toY = std::clamp(y, -korvane::kMaxPosition, korvane::kMaxPosition);
+    const korvane::DrawShift shift(*surface, toX - left, toY - top);
     Redraw(true);
     Draw(target);
 }
