@@ -18,7 +18,7 @@ std::string TitleText(const wchar_t* title) {
                                 ? nullptr
                                 : SDL_iconv_string("UTF-8", "WCHAR_T", reinterpret_cast<const char*>(title),
                                                    length * sizeof(wchar_t));
-    const std::string text = converted ? converted : "";
+    std::string text = converted ? converted : "";
     SDL_free(converted);
     return text;
 }

@@ -42,8 +42,8 @@ SYSTEMTIME CalendarFromMilliseconds(std::int64_t milliseconds) {
     time.wMonth = static_cast<WORD>(month < 10 ? month + 3 : month - 9);
     time.wDay = static_cast<WORD>(inYear - (153 * month + 2) / 5 + 1);
     time.wDayOfWeek = static_cast<WORD>((epochDay + 4) - FloorDivide(epochDay + 4, 7) * 7);
-    time.wHour = static_cast<WORD>(inDay / (60 * 60 * 1000));
-    time.wMinute = static_cast<WORD>(inDay / (60 * 1000) % 60);
+    time.wHour = static_cast<WORD>(inDay / (60 * 60 * 1000LL));
+    time.wMinute = static_cast<WORD>(inDay / (60 * 1000LL) % 60);
     time.wSecond = static_cast<WORD>(inDay / 1000 % 60);
     time.wMilliseconds = static_cast<WORD>(inDay % 1000);
     return time;
