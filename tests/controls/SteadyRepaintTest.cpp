@@ -1,38 +1,10 @@
-#include <atomic>
-#include <cstdlib>
 #include <gtest/gtest.h>
-#include <new>
+
+#include "engine/draw/SurfManager.h"
 
 #include "tests/controls/TestWheel.h"
+#include "tests/platform/AllocationCount.h"
 #include "tests/support/Scene.h"
-
-namespace {
-
-std::atomic<long> allocations{0};
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-    ++allocations;
-    if (void* const memory = std::malloc(size ? size : 1))
-        return memory;
-    throw std::bad_alloc();
-}
-void* operator new[](std::size_t size) {
-    return ::operator new(size);
-}
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
 
 namespace {
 
@@ -59,9 +31,9 @@ TEST(NumSliderRepaint, AllocatesNothingInSteadyState) {
         };
         rollOnce();
         rollOnce();
-        const long before = allocations;
+        const int before = korvane::AllocationCount();
         rollOnce();
-        EXPECT_EQ(allocations - before, 0);
+        EXPECT_EQ(korvane::AllocationCount(), before);
     }
 }
 
