@@ -112,7 +112,7 @@ GlyphMask Typeface::Rasterise(std::uint32_t glyph, PixelSize size, int phase) {
                                      std::max(std::abs(box.yMin), std::abs(box.yMax)));
     if (farthest > kMaxGlyphExtent * 64)
         return mask;
-    FT_Outline_Translate(&slot->outline, phase * (64 / kPhases), 0);
+    FT_Outline_Translate(&slot->outline, FT_Pos{phase} * (64 / kPhases), 0);
     if (FT_Render_Glyph(slot, FT_RENDER_MODE_NORMAL) != 0 || slot->bitmap.pixel_mode != FT_PIXEL_MODE_GRAY)
         return mask;
     mask.left = slot->bitmap_left;

@@ -8,7 +8,7 @@ namespace korvane {
 
 namespace {
 
-constexpr std::size_t kBudget = 512 * 1024;
+constexpr std::size_t kBudget = std::size_t{512} * 1024;
 
 /// All that tells two masks apart, without loss: 16 bits of face, 9 of each size (1 to 512), 2 of phase and
 /// FreeType's 16 bits of glyph.

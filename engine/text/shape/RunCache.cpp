@@ -8,7 +8,7 @@ namespace korvane {
 
 namespace {
 
-constexpr std::size_t kBudget = 512 * 1024;
+constexpr std::size_t kBudget = std::size_t{512} * 1024;
 
 std::uint64_t Hash(std::wstring_view text, FaceId primary, PixelSize size) {
     constexpr std::uint64_t kPrime = 0x100000001B3U;
