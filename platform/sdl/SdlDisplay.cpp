@@ -61,6 +61,11 @@ bool SdlDisplay::OpenWindow(const wchar_t* title) {
     if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0)
         return false;
     started_ = true;
+    // SDL falls back to a display that nobody sees; that takes a program that names it.
+    if (DriverName() == "offscreen" && !SDL_GetHint(SDL_HINT_VIDEODRIVER)) {
+        SDL_SetError("neither a desktop nor a device's display can be reached");
+        return false;
+    }
     SDL_StopTextInput();
     wakeEvent_ = SDL_RegisterEvents(1);
     driverWaits_ = DriverName() == "x11" || DriverName() == "wayland";
