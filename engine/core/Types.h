@@ -20,7 +20,8 @@ struct _LQRect {
 };
 
 /// Pixel formats of surfaces. Formats with alpha hold premultiplied colours.
-enum _eSurfaceType {
+/// Values from files and callers may be any int, so the type must be able to hold it.
+enum _eSurfaceType : int {
     eSurface_None = 0,
     eSurface_RGB565 = 1,    ///< 16 bits, opaque
     eSurface_XRGB8888 = 2,  ///< 32 bits, opaque
