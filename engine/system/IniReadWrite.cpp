@@ -18,7 +18,7 @@ using korvane::FoldIniName;
 using korvane::IniChange;
 using korvane::IniText;
 
-constexpr std::size_t kMaxFileBytes = 1024 * 1024;
+constexpr std::size_t kMaxFileBytes = std::size_t{1} << 20;
 
 /// False when there is something of that name that cannot be read; a missing file gives no bytes.
 bool ReadIniFile(const std::wstring& path, std::string& bytes) {

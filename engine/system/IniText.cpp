@@ -1,7 +1,6 @@
 #include "engine/system/IniText.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <set>
 #include <utility>
 
@@ -56,8 +55,8 @@ bool IsIniName(std::wstring_view name) {
     if (name.empty() || name.size() > kMaxNameLength)
         return false;
     const auto isForbidden = [](wchar_t character) {
-        const auto code = static_cast<std::uint32_t>(character);
-        return code < 0x20 || code == 0x7F || code == '=' || code == '[' || code == ']';
+        const auto code = static_cast<char32_t>(character);
+        return code < U' ' || code == 0x7F || code == '=' || code == '[' || code == ']';
     };
     if (std::any_of(name.begin(), name.end(), isForbidden))
         return false;
@@ -193,7 +192,9 @@ std::string IniText::With(const std::vector<IniChange>& changes) const {
         tail += lineBreak_;
     bool blankAbove = lastLine_.kind == IniLine::Kind::Blank;
     for (const auto& [name, entries] : newSections) {
-        tail += (blankAbove ? L"[" : lineBreak_ + L"[") + name + L"]" + lineBreak_ + entries;
+        if (!blankAbove)
+            tail += lineBreak_;
+        tail.append(L"[").append(name).append(L"]").append(lineBreak_).append(entries);
         blankAbove = false;
     }
     edits.push_back({text_.ByteOffset(text_.Size()), 0, text_.Encode(tail)});

@@ -12,7 +12,7 @@ namespace korvane {
 /// The texts of one language, as docs/file-formats.md describes them.
 class LanguageTable {
   public:
-    static constexpr std::size_t kMaxFileBytes = 4 * 1024 * 1024;
+    static constexpr std::size_t kMaxFileBytes = std::size_t{4} << 20;
 
     /// An empty table: no texts, "AM" and "PM".
     LanguageTable() = default;

@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr std::size_t kMegabyte = std::size_t{1} << 20;
+
 class IniReading : public testing::Test {
   protected:
     void Load(std::string_view bytes) {
@@ -206,8 +208,8 @@ TEST_F(IniReading, ReadsAFileThatEndsInTheMiddleOfALine) {
 
 TEST_F(IniReading, ReadsAFileOfOneMegabyteAndNoLongerOne) {
     const std::string start = "[a]\nx=1\n;";
-    Load(start + std::string(1024 * 1024 - start.size(), '-'));
+    Load(start + std::string(kMegabyte - start.size(), '-'));
     EXPECT_EQ(Text(L"a", L"x"), L"1");
-    Load(start + std::string(1024 * 1024 - start.size() + 1, '-'));
+    Load(start + std::string(kMegabyte - start.size() + 1, '-'));
     EXPECT_EQ(Text(L"a", L"x"), L"missing");
 }

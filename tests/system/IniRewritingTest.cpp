@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr std::size_t kMegabyte = std::size_t{1} << 20;
+
 class IniRewriting : public testing::Test {
   protected:
     void Load(std::string_view bytes) {
@@ -296,7 +298,7 @@ TEST_F(IniRewriting, LeavesNothingBesideTheFile) {
 }
 
 TEST_F(IniRewriting, NeverOverwritesAFileThatIsTooLongToRead) {
-    const std::string contents = "[a]\nx=1\n;" + std::string(1024 * 1024, '-');
+    const std::string contents = "[a]\nx=1\n;" + std::string(kMegabyte, '-');
     Load(contents);
     EXPECT_TRUE(Set(L"a", L"x", L"2"));
     EXPECT_EQ(Updated(), contents);
@@ -305,7 +307,7 @@ TEST_F(IniRewriting, NeverOverwritesAFileThatIsTooLongToRead) {
 TEST_F(IniRewriting, WritesNoFileThatItCouldNotReadAgain) {
     Load("[a]\nx=1\n");
     Set(L"a", L"x", L"2222");
-    const std::string grown = "[a]\nx=1\n;" + std::string(1024 * 1024 - 10, '-');
+    const std::string grown = "[a]\nx=1\n;" + std::string(kMegabyte - 10, '-');
     device_.Write("x.ini", grown);
     EXPECT_EQ(Updated(), grown);
     EXPECT_EQ(ini_.GetInt(L"a", L"x", 0), 2222);
@@ -320,7 +322,7 @@ TEST_F(IniRewriting, RefusesValuesBeyondOneMegabyteInTotal) {
     EXPECT_EQ(accepted, 17);
     EXPECT_TRUE(Set(L"a", L"0", L"short"));
     EXPECT_TRUE(Set(L"a", L"in the place of the first", L"x"));
-    EXPECT_LE(Updated().size(), 1024u * 1024);
+    EXPECT_LE(Updated().size(), kMegabyte);
     EXPECT_EQ(Stored(L"a", L"0"), L"short");
     EXPECT_EQ(Stored(L"a", L"16"), value);
 }

@@ -146,7 +146,7 @@ TEST_F(LanguageTable, IsKeptWhenAnotherIsDamaged) {
 
 TEST_F(LanguageTable, IsKeptWhenAnotherIsTooLarge) {
     ASSERT_TRUE(LoadTexts("1 = kept\n"));
-    EXPECT_FALSE(LoadTexts("2 = x\n;" + std::string(4 * 1024 * 1024, '-')));
+    EXPECT_FALSE(LoadTexts("2 = x\n;" + std::string(std::size_t{4} << 20, '-')));
     std::string lines;
     for (int text = 0; text < 65536; ++text)
         lines += "k=\n";
