@@ -1,5 +1,5 @@
 #include "engine/draw/SurfaceState.h"
-#include "engine/draw/TiledDrawing.h"
+#include "engine/draw/blit/TiledDrawing.h"
 
 namespace korvane {
 

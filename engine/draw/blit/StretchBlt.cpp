@@ -1,5 +1,5 @@
 #include "engine/draw/Surface.h"
-#include "engine/draw/TiledDrawing.h"
+#include "engine/draw/blit/TiledDrawing.h"
 
 using korvane::PixelBox;
 using korvane::SurfaceState;

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "engine/draw/Surface.h"
-#include "engine/draw/TiledDrawing.h"
+#include "engine/draw/blit/TiledDrawing.h"
 
 using korvane::PixelBox;
 using korvane::SurfaceState;

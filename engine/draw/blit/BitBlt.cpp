@@ -2,7 +2,7 @@
 #include <cstring>
 
 #include "engine/draw/Surface.h"
-#include "engine/draw/TiledDrawing.h"
+#include "engine/draw/blit/TiledDrawing.h"
 
 using korvane::PixelBox;
 using korvane::SurfaceState;
