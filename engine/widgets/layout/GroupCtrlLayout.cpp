@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "engine/system/System.h"
 #include "engine/widgets/layout/CtrlFactory.h"
 #include "engine/widgets/layout/CtrlStorage.h"

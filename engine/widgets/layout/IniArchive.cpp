@@ -1,5 +1,7 @@
 #include "engine/widgets/layout/IniArchive.h"
 
+#include <algorithm>
+
 #include "engine/system/IniReadWrite.h"
 #include "engine/widgets/layout/CtrlFactory.h"
 
@@ -32,7 +34,9 @@ int EscapedCode(const std::wstring& text, std::size_t at) {
 }
 
 bool IsControl(wchar_t character) {
-    return (character >= 0 && character < 0x20) || (character >= 0x7f && character < 0xa0);
+    // Where wchar_t is signed, what is below 0 is no character at all.
+    return character == L'\0' || (character > L'\0' && character < L' ') ||
+           (character >= L'\x7f' && character < L'\xa0');
 }
 
 std::wstring Trim(const std::wstring& text) {

@@ -20,7 +20,7 @@ class KORVANE_API CLQMemBlob {
     static constexpr int kMaxProperties = 512;      ///< of one record
     static constexpr int kMaxStrings = 65535;       ///< different keys and texts
     static constexpr std::size_t kMaxText = 65535;  ///< bytes of one in UTF-8
-    static constexpr std::size_t kMaxFileSize = 4 * 1024 * 1024;
+    static constexpr std::size_t kMaxFileSize = std::size_t{4} * 1024 * 1024;
 
     int GetRecordCount() const { return static_cast<int>(m_vecRecords.size()); }
     /// The kind of a record; -1 outside 0 to count - 1.
