@@ -9,7 +9,7 @@ namespace korvane {
 /// Rasterised ink: 8-bit coverage, row after row. Empty for a glyph without ink.
 struct GlyphMask {
     /// Rows are filled up with zeros to a multiple of this many bytes.
-    static constexpr int kRowUnit = 8;
+    static constexpr int kRowUnit = 16;
 
     int left = 0;  ///< from the pen to the first column
     int top = 0;   ///< from the baseline down to the first row; mostly negative
