@@ -126,7 +126,15 @@ TEST_F(DamagedImage, IsRefusedWhenItsBlockDoesNotDecodeToThePixels) {
     ExpectRefused(file(1), "far less");
 }
 
-TEST_F(DamagedImage, IsRefusedWhenItCouldOnlyBeAlmostWithoutPayload) {
+TEST_F(DamagedImage, IsRefusedWhenItsBlockIsNotShorterThanThePixels) {
+    LqiFields fields;
+    fields.encoding = 1;
+    fields.payload = Lz4Block({1, 2, 3, 4, 5, 6, 7, 255});
+    ASSERT_GT(fields.payload.size(), 8U);
+    ExpectRefused(LqiBytes(fields), "a block of literals");
+}
+
+TEST_F(DamagedImage, IsRefusedWhenItsPayloadIsFarTooShort) {
     LqiFields fields;
     fields.width = 4096;
     fields.height = 4096;
