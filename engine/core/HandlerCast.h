@@ -5,8 +5,8 @@
 
 namespace korvane {
 
-/// Carries a member-function pointer in the type of another and back. The result may be called only as the type
-/// that it came from; a null pointer stays null.
+/// Carries a member-function pointer in the type of another and back. The result may be called only as the
+/// type that it came from; a null pointer stays null.
 template <class To, class From>
 To HandlerCast(From handler) {
     static_assert(std::is_member_function_pointer<To>::value, "To is a member-function pointer");

@@ -1,5 +1,7 @@
 #include "engine/system/System.h"
 
+#include "engine/window/Screen.h"
+#include "engine/window/Window.h"
 #include "platform/coredll.h"
 
 namespace {
@@ -41,7 +43,14 @@ bool IsCursorState() {
 namespace korvane {
 
 void SetCursorState(bool cursor) {
+    if (cursor == cursorState)
+        return;
     cursorState = cursor;
+    CLQScreen* const screen = CLQScreen::GetInstance();
+    for (int i = 0; i < screen->GetWindowCount(); ++i) {
+        if (CLQBaseCtrl* focus = screen->GetWindow(i)->GetFocusCtrl())
+            focus->Invalidate();
+    }
 }
 
 }  // namespace korvane

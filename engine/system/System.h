@@ -30,6 +30,7 @@ inline bool IsFileExist(const std::wstring& path) {
 
 namespace korvane {
 
+/// Enters or leaves cursor mode and has the controls that have the focus repainted.
 KORVANE_API void SetCursorState(bool cursor);
 
 /// The folders in which names without a folder are looked for.

@@ -165,10 +165,7 @@ void CLQStatic::OnTimerScroll(void*, int) {
 void CLQStatic::Draw(CLQSurfHandle& target) {
     if (m_pOwnerWnd && !IsNeedRedraw())
         return;
-    _LQRect area;
-    GetScreenXY(area.left, area.top);
-    area.right = area.left + m_nWidth;
-    area.bottom = area.top + m_nHeight;
+    const _LQRect area = GetScreenRect();
     target.BitBlt(m_imageBkg.Surface(), area.left, area.top, m_nWidth, m_nHeight, 0, 0);
 
     const korvane::TextExtent extent = m_line.Measure();

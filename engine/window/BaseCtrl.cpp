@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "engine/core/Rect.h"
 #include "engine/window/DrawShift.h"
 #include "engine/window/GroupCtrl.h"
 #include "engine/window/Window.h"
@@ -89,7 +90,7 @@ void CLQBaseCtrl::SetShow(bool show) {
     if (show)
         Invalidate();
     else
-        m_nPress = 0;
+        DropPress();
 }
 
 void CLQBaseCtrl::SetFocus(bool focus) {
@@ -110,7 +111,7 @@ void CLQBaseCtrl::EnableWindow(bool enable) {
         return;
     CLQWnd::EnableWindow(enable);
     if (!enable)
-        m_nPress = 0;
+        DropPress();
     Invalidate();
 }
 
@@ -128,11 +129,19 @@ void CLQBaseCtrl::ChangeLanguage() {}
 void CLQBaseCtrl::SetFatherWnd(CLQWindow* window) {
     if (window == m_pOwnerWnd)
         return;
+    if (m_bFocus) {
+        const korvane::LifeWatch self = WatchLife();
+        SetFocus(false);
+        if (!self.IsAlive())
+            return;
+    }
     if (m_pOwnerWnd) {
         InvalidateArea();
         m_pOwnerWnd->ForgetCtrl(this);
     }
     m_pOwnerWnd = window;
+    if (window)
+        window->m_placed.push_back(this);
     m_bNeedRedraw = true;
     InvalidateArea();
 }
@@ -142,10 +151,7 @@ void CLQBaseCtrl::Redraw(bool needed) {
 }
 
 bool CLQBaseCtrl::CheckPoint(int x, int y) {
-    int left;
-    int top;
-    GetScreenXY(left, top);
-    return x >= left && x < left + m_nWidth && y >= top && y < top + m_nHeight;
+    return korvane::Contains(GetScreenRect(), x, y);
 }
 
 void CLQBaseCtrl::Invalidate() {
@@ -156,11 +162,7 @@ void CLQBaseCtrl::Invalidate() {
 void CLQBaseCtrl::InvalidateArea() {
     if (!m_pOwnerWnd || !m_bOwnerUpdate || !IsOwnerShow())
         return;
-    _LQRect rect;
-    GetScreenXY(rect.left, rect.top);
-    rect.right = rect.left + m_nWidth;
-    rect.bottom = rect.top + m_nHeight;
-    m_pOwnerWnd->InvalidateRect(rect);
+    m_pOwnerWnd->InvalidateRect(GetScreenRect());
 }
 
 void CLQBaseCtrl::LeaveOwner() {
@@ -229,6 +231,17 @@ void CLQBaseCtrl::GetScreenXY(int& x, int& y) const {
         x += windowX;
         y += windowY;
     }
+}
+
+_LQRect CLQBaseCtrl::GetScreenRect() const {
+    int x;
+    int y;
+    GetScreenXY(x, y);
+    return korvane::RectOfSize(x, y, m_nWidth, m_nHeight);
+}
+
+void CLQBaseCtrl::DropPress() {
+    m_nPress = 0;
 }
 
 bool CLQBaseCtrl::IsNeedRedraw() const {

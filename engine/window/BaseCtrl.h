@@ -86,10 +86,15 @@ class KORVANE_API CLQBaseCtrl : public CLQWnd {
 
     /// Absolute screen position of the top-left corner.
     void GetScreenXY(int& x, int& y) const;
+    /// The control's rectangle on the screen. When a window repaints, nothing that a control draws outside it
+    /// shows; a control that is drawn by itself, with `Draw` or `DrawBaseCtrl`, is not cut.
+    _LQRect GetScreenRect() const;
     bool IsNeedRedraw() const;
     /// True when the control and all its owners are shown.
     bool IsOwnerShow() const;
     bool IsPressed() const { return m_nPress == 1; }
+    /// Ends a press without a release, as for a control that no longer takes input.
+    void DropPress();
 
     /// The name by which `CLQGroupCtrl::FindCtrl` finds the control.
     void SetCtrlName(const wchar_t* name);

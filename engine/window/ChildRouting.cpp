@@ -1,9 +1,9 @@
 #include "engine/window/ChildRouting.h"
 
+#include "engine/core/Rect.h"
 #include "engine/window/BaseCtrl.h"
 #include "engine/window/DrawShift.h"
 #include "engine/window/GroupCtrl.h"
-#include "engine/window/UpdateRegion.h"
 
 namespace korvane {
 
@@ -13,21 +13,15 @@ bool TakesInput(CLQBaseCtrl& ctrl) {
     return ctrl.IsShow() && ctrl.IsWindowEnabled() && ctrl.IsRecvMsgEnabled();
 }
 
-_LQRect ScreenRect(const CLQBaseCtrl& ctrl) {
-    _LQRect rect;
-    int width;
-    int height;
-    ctrl.GetScreenXY(rect.left, rect.top);
-    ctrl.GetSize(width, height);
-    rect.right = rect.left + width;
-    rect.bottom = rect.top + height;
-    return rect;
-}
-
 }  // namespace
 
 CLQBaseCtrl* Capture::Get() const {
-    return ctrl && life.IsAlive() && TakesInput(*ctrl) ? ctrl : nullptr;
+    if (!ctrl || !life.IsAlive())
+        return nullptr;
+    if (TakesInput(*ctrl))
+        return ctrl;
+    DropPress(*ctrl);
+    return nullptr;
 }
 
 void Capture::Set(CLQBaseCtrl* child) {
@@ -49,16 +43,33 @@ bool RouteToChildren(const ChildList& children, Capture& capture, const _LQMessa
     }
     for (std::size_t i = snapshot.Size(); i-- > 0;) {
         CLQBaseCtrl* child = snapshot.At(i);
-        if (!child || !TakesInput(*child))
+        if (!child || !ownerLife.IsAlive() || !children.Contains(child) || !TakesInput(*child))
             continue;
         copy = msg;
         if (!child->DoMessage(&copy))
             continue;
-        if (msg.code == kMsgPress && ownerLife.IsAlive())
-            capture.Set(snapshot.At(i));
+        if (msg.code == kMsgPress && ownerLife.IsAlive() && children.Contains(child))
+            capture.Set(child);
         return true;
     }
     return false;
+}
+
+void DropPress(CLQBaseCtrl& ctrl) {
+    ctrl.DropPress();
+    if (auto* group = dynamic_cast<CLQGroupCtrl*>(&ctrl)) {
+        for (int i = 0; i < group->GetChildCount(); ++i) {
+            if (CLQBaseCtrl* child = group->GetChild(i))
+                DropPress(*child);
+        }
+    }
+}
+
+void DropPresses(const ChildList& children) {
+    for (std::size_t i = 0; i < children.Size(); ++i) {
+        if (CLQBaseCtrl* child = children.At(i))
+            DropPress(*child);
+    }
 }
 
 void DrawChildren(const ChildList& children, CLQSurfHandle& target, CLQSurface& surface) {
@@ -73,7 +84,7 @@ void DrawChildren(const ChildList& children, CLQSurfHandle& target, CLQSurface& 
             child->Draw(target);
             continue;
         }
-        const _LQRect rect = ScreenRect(*child);
+        const _LQRect rect = child->GetScreenRect();
         if (!Overlap(rect, area))
             continue;
         const DrawClip clip(surface, rect);

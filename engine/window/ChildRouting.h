@@ -12,7 +12,7 @@ struct Capture {
     CLQBaseCtrl* ctrl = nullptr;
     LifeWatch life;
 
-    /// The child, null when it ended or no longer takes input.
+    /// The child, null when it ended or no longer takes input; its press is dropped then.
     CLQBaseCtrl* Get() const;
     void Set(CLQBaseCtrl* child);
 };
@@ -23,6 +23,10 @@ struct Capture {
 /// child, and the owner.
 bool RouteToChildren(const ChildList& children, Capture& capture, const _LQMessage& msg,
                      const LifeWatch& ownerLife);
+
+/// Ends the presses that a control and everything inside it hold, without a release.
+void DropPress(CLQBaseCtrl& ctrl);
+void DropPresses(const ChildList& children);
 
 /// Draws the shown children that lie inside the clip, each clipped to its own rectangle, in their order.
 void DrawChildren(const ChildList& children, CLQSurfHandle& target, CLQSurface& surface);

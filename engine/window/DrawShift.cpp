@@ -1,6 +1,6 @@
 #include "engine/window/DrawShift.h"
 
-#include "engine/window/UpdateRegion.h"
+#include "engine/core/Rect.h"
 
 namespace korvane {
 

@@ -1,8 +1,7 @@
 #include "engine/window/GroupCtrl.h"
 
-#include "engine/draw/SurfManager.h"
-#include "engine/window/DrawShift.h"
-#include "engine/window/UpdateRegion.h"
+#include <utility>
+
 #include "engine/window/Window.h"
 
 CLQGroupCtrl::CLQGroupCtrl() {
@@ -10,24 +9,20 @@ CLQGroupCtrl::CLQGroupCtrl() {
 }
 
 CLQGroupCtrl::CLQGroupCtrl(const CLQGroupCtrl& other)
-    : CLQBaseCtrl(other),
-      m_children(other.m_children),
-      m_strBkgFile(other.m_strBkgFile),
-      m_surfBkg(other.m_surfBkg),
-      m_bBkgColor(other.m_bBkgColor),
-      m_colorBkg(other.m_colorBkg) {}
+    : CLQBaseCtrl(other), m_children(other.m_children), m_background(other.m_background) {}
 
 CLQGroupCtrl& CLQGroupCtrl::operator=(const CLQGroupCtrl& other) {
     if (this == &other)
         return *this;
     CLQBaseCtrl::operator=(other);
+    // The source may be a child of this group and end with its place in it.
+    korvane::ChildList children = other.m_children;
+    korvane::Background background = other.m_background;
     AbandonChildren();
-    m_children = other.m_children;
     ReleaseRelationMap();
-    m_strBkgFile = other.m_strBkgFile;
-    m_surfBkg = other.m_surfBkg;
-    m_bBkgColor = other.m_bBkgColor;
-    m_colorBkg = other.m_colorBkg;
+    m_children = std::move(children);
+    m_background = std::move(background);
+    AdoptOrphans();
     return *this;
 }
 
@@ -44,6 +39,18 @@ void CLQGroupCtrl::AbandonChildren() {
         }
     }
     m_children.Clear();
+    m_captured = korvane::Capture();
+}
+
+/// A copy shares the children of its source, and owns them once the source has ended.
+void CLQGroupCtrl::AdoptOrphans() {
+    for (std::size_t i = 0; i < m_children.Size(); ++i) {
+        CLQBaseCtrl* child = m_children.At(i);
+        if (child && !child->m_pOwnerGroup && !child->m_pOwnerWnd) {
+            child->m_pOwnerGroup = this;
+            child->SetFatherWnd(m_pOwnerWnd);
+        }
+    }
 }
 
 void CLQGroupCtrl::Move(int dx, int dy) {
@@ -70,20 +77,7 @@ void CLQGroupCtrl::SetShow(bool show) {
         InvalidateChildren();
     CLQBaseCtrl::SetShow(show);
     if (!show)
-        DropPresses();
-}
-
-void CLQGroupCtrl::DropPresses() {
-    m_nPress = 0;
-    m_captured = korvane::Capture();
-    for (std::size_t i = 0; i < m_children.Size(); ++i) {
-        CLQBaseCtrl* child = m_children.At(i);
-        if (!child)
-            continue;
-        child->m_nPress = 0;
-        if (auto* group = dynamic_cast<CLQGroupCtrl*>(child))
-            group->DropPresses();
-    }
+        korvane::DropPress(*this);
 }
 
 void CLQGroupCtrl::LoadResource() {
@@ -97,6 +91,7 @@ void CLQGroupCtrl::LoadResource() {
 bool CLQGroupCtrl::DoMessage(_LQMessage* msg) {
     if (!msg || !m_bEnabled)
         return false;
+    AdoptOrphans();
     return korvane::RouteToChildren(m_children, m_captured, *msg, WatchLife());
 }
 
@@ -104,20 +99,12 @@ void CLQGroupCtrl::Draw(CLQSurfHandle& target) {
     if (m_pOwnerWnd && !IsNeedRedraw())
         return;
     if (CLQSurface* surface = target.GetSurface()) {
-        DrawBackground(target);
+        AdoptOrphans();
+        m_background.Draw(target, GetScreenRect());
         korvane::DrawChildren(m_children, target, *surface);
     }
     if (m_pOwnerWnd)
         Redraw(false);
-}
-
-void CLQGroupCtrl::DrawBackground(CLQSurfHandle& target) {
-    int x;
-    int y;
-    GetScreenXY(x, y);
-    if (m_bBkgColor)
-        target.FillRect(x, y, x + m_nWidth, y + m_nHeight, m_colorBkg, m_colorBkg.a != 255);
-    target.BitBlt(m_surfBkg, x, y, m_nWidth, m_nHeight, 0, 0);
 }
 
 void CLQGroupCtrl::ChangeLanguage() {
@@ -132,14 +119,10 @@ void CLQGroupCtrl::ChangeLanguage() {
 void CLQGroupCtrl::SetFatherWnd(CLQWindow* window) {
     CLQBaseCtrl::SetFatherWnd(window);
     m_captured = korvane::Capture();
+    AdoptOrphans();
     for (std::size_t i = 0; i < m_children.Size(); ++i) {
         CLQBaseCtrl* child = m_children.At(i);
-        if (!child)
-            continue;
-        // A copy of a group takes the children over once its source has ended.
-        if (!child->m_pOwnerGroup)
-            child->m_pOwnerGroup = this;
-        if (child->m_pOwnerGroup == this)
+        if (child && child->m_pOwnerGroup == this)
             child->SetFatherWnd(window);
     }
 }
@@ -219,17 +202,12 @@ bool CLQGroupCtrl::DelChild(CLQBaseCtrl* child, bool destroy) {
 }
 
 void CLQGroupCtrl::SetBkgSurf(const wchar_t* file) {
-    m_strBkgFile = file ? file : L"";
-    m_surfBkg.Release();
-    if (!m_strBkgFile.empty())
-        m_surfBkg = CLQSurfManager::GetInstance()->CreateSurface(m_strBkgFile.c_str(), true);
+    m_background.SetImage(file);
     Invalidate();
 }
 
 void CLQGroupCtrl::EnableBkgColor(bool enable, _LQColor* color) {
-    m_bBkgColor = enable;
-    if (color)
-        m_colorBkg = *color;
+    m_background.EnableColor(enable, color);
     Invalidate();
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/window/Background.h"
 #include "engine/window/BaseCtrl.h"
 #include "engine/window/ChildList.h"
 #include "engine/window/ChildRouting.h"
@@ -86,14 +87,10 @@ class KORVANE_API CLQGroupCtrl : public CLQBaseCtrl {
     void NoteNames(std::map<std::wstring, NamedCtrl>& names) const;
     void AbandonChildren();
     void InvalidateChildren();
-    void DropPresses();
-    void DrawBackground(CLQSurfHandle& target);
+    void AdoptOrphans();
 
     korvane::ChildList m_children;
     korvane::Capture m_captured;
     std::map<std::wstring, NamedCtrl> m_mapNameToCtrl;
-    std::wstring m_strBkgFile;
-    CLQSurfHandle m_surfBkg;
-    bool m_bBkgColor = false;
-    _LQColor m_colorBkg;
+    korvane::Background m_background;
 };

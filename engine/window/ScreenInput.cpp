@@ -37,21 +37,10 @@ class WindowSnapshot {
     std::vector<Entry> entries_;
 };
 
-void LeaveCursorState() {
-    if (!IsCursorState())
-        return;
-    SetCursorState(false);
-    WindowSnapshot().FindFirst([](CLQWindow& window) {
-        if (CLQBaseCtrl* focus = window.GetFocusCtrl())
-            focus->Invalidate();
-        return false;
-    });
-}
-
 bool SendPointer(const _LQMessage& msg, CLQWindow*& pressed, LifeWatch& pressedLife) {
     _LQMessage copy = msg;
     if (msg.code == kMsgPress) {
-        LeaveCursorState();
+        SetCursorState(false);
         LifeWatch life;
         CLQWindow* taker = WindowSnapshot().FindFirst([&](CLQWindow& window) {
             if (!window.IsShow())
@@ -64,7 +53,7 @@ bool SendPointer(const _LQMessage& msg, CLQWindow*& pressed, LifeWatch& pressedL
         pressedLife = life;
         return true;
     }
-    CLQWindow* holder = pressed && pressedLife.IsAlive() ? pressed : nullptr;
+    CLQWindow* holder = pressed && pressedLife.IsAlive() && pressed->IsShow() ? pressed : nullptr;
     if (msg.code == kMsgRelease)
         pressed = nullptr;
     if (holder)

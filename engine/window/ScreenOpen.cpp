@@ -12,9 +12,10 @@ constexpr wchar_t kScreenClass[] = L"KorvaneScreen";
 void PaintScreen(HWND hwnd, CLQScreen& screen) {
     RECT lost;
     const bool exposed = ::GetUpdateRect(hwnd, &lost, FALSE) != 0;
+    // Before the painting, which may mark more.
+    ::ValidateRect(hwnd, nullptr);
     const std::uint64_t before = screen.GetCounters().paints;
     screen.Paint();
-    ::ValidateRect(hwnd, nullptr);
     if (exposed && screen.GetCounters().paints == before)
         screen.FlipRect(lost.left, lost.top, lost.right, lost.bottom);
 }

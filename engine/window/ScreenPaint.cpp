@@ -7,10 +7,7 @@
 namespace {
 
 _LQRect SurfaceRect(const CLQSurfHandle& surface) {
-    _LQRect rect;
-    rect.right = surface.GetWidth();
-    rect.bottom = surface.GetHeight();
-    return rect;
+    return korvane::RectOfSize(0, 0, surface.GetWidth(), surface.GetHeight());
 }
 
 /// Paints one rectangle of the screen: from the topmost window that hides all below it upwards.
@@ -89,12 +86,8 @@ void CLQScreen::FlipRect(int left, int top, int right, int bottom) {
     const CLQSurface* surface = state.backBuffer.GetSurface();
     if (!surface || !state.display)
         return;
-    _LQRect rect;
-    rect.left = left;
-    rect.right = right;
-    rect.top = top;
-    rect.bottom = bottom;
-    rect = korvane::Intersect(rect, SurfaceRect(state.backBuffer));
+    const _LQRect rect =
+        korvane::Intersect(korvane::RectOfEdges(left, top, right, bottom), SurfaceRect(state.backBuffer));
     if (korvane::IsEmpty(rect))
         return;
     ++state.counters.flips;

@@ -1,50 +1,6 @@
 #include "engine/window/UpdateRegion.h"
 
-#include <algorithm>
-
 namespace korvane {
-
-bool IsEmpty(const _LQRect& rect) {
-    return rect.left >= rect.right || rect.top >= rect.bottom;
-}
-
-_LQRect Intersect(const _LQRect& a, const _LQRect& b) {
-    _LQRect rect;
-    rect.left = std::max(a.left, b.left);
-    rect.right = std::min(a.right, b.right);
-    rect.top = std::max(a.top, b.top);
-    rect.bottom = std::min(a.bottom, b.bottom);
-    return rect;
-}
-
-_LQRect Unite(const _LQRect& a, const _LQRect& b) {
-    if (IsEmpty(a))
-        return b;
-    if (IsEmpty(b))
-        return a;
-    _LQRect rect;
-    rect.left = std::min(a.left, b.left);
-    rect.right = std::max(a.right, b.right);
-    rect.top = std::min(a.top, b.top);
-    rect.bottom = std::max(a.bottom, b.bottom);
-    return rect;
-}
-
-bool Overlap(const _LQRect& a, const _LQRect& b) {
-    return !IsEmpty(Intersect(a, b));
-}
-
-bool Covers(const _LQRect& outer, const _LQRect& inner) {
-    return inner.left >= outer.left && inner.right <= outer.right && inner.top >= outer.top &&
-           inner.bottom <= outer.bottom;
-}
-
-long long Area(const _LQRect& rect) {
-    if (IsEmpty(rect))
-        return 0;
-    return (static_cast<long long>(rect.right) - rect.left) *
-           (static_cast<long long>(rect.bottom) - rect.top);
-}
 
 void UpdateRegion::Add(const _LQRect& rect) {
     if (korvane::IsEmpty(rect))

@@ -3,17 +3,10 @@
 #include <array>
 #include <cstddef>
 
-#include "engine/core/Types.h"
+#include "engine/core/Rect.h"
 #include "platform/Export.h"
 
 namespace korvane {
-
-KORVANE_API bool IsEmpty(const _LQRect& rect);
-KORVANE_API _LQRect Intersect(const _LQRect& a, const _LQRect& b);
-KORVANE_API _LQRect Unite(const _LQRect& a, const _LQRect& b);
-KORVANE_API bool Overlap(const _LQRect& a, const _LQRect& b);
-KORVANE_API bool Covers(const _LQRect& outer, const _LQRect& inner);
-KORVANE_API long long Area(const _LQRect& rect);
 
 /// A few rectangles that wait for repainting. Of fixed capacity: it never allocates. Rectangles whose union
 /// is no larger than the two together are merged, and so are the cheapest two when the places run out.

@@ -1,6 +1,8 @@
 #include "engine/window/Window.h"
 
-#include "engine/draw/SurfManager.h"
+#include <algorithm>
+
+#include "engine/core/Rect.h"
 #include "engine/window/DrawShift.h"
 #include "engine/window/Screen.h"
 
@@ -9,12 +11,7 @@ CLQWindow::CLQWindow() {
 }
 
 CLQWindow::CLQWindow(const CLQWindow& other)
-    : CLQWnd(other),
-      m_children(other.m_children),
-      m_strBkgFile(other.m_strBkgFile),
-      m_surfBkg(other.m_surfBkg),
-      m_bBkgColor(other.m_bBkgColor),
-      m_colorBkg(other.m_colorBkg) {}
+    : CLQWnd(other), m_children(other.m_children), m_background(other.m_background) {}
 
 CLQWindow& CLQWindow::operator=(const CLQWindow& other) {
     if (this == &other)
@@ -23,10 +20,7 @@ CLQWindow& CLQWindow::operator=(const CLQWindow& other) {
     CLQWnd::operator=(other);
     AbandonChildren();
     m_children = other.m_children;
-    m_strBkgFile = other.m_strBkgFile;
-    m_surfBkg = other.m_surfBkg;
-    m_bBkgColor = other.m_bBkgColor;
-    m_colorBkg = other.m_colorBkg;
+    m_background = other.m_background;
     InvalidateRect(ScreenRect());
     return *this;
 }
@@ -37,22 +31,36 @@ CLQWindow::~CLQWindow() {
 }
 
 void CLQWindow::AbandonChildren() {
-    for (std::size_t i = 0; i < m_children.Size(); ++i) {
-        CLQBaseCtrl* child = m_children.At(i);
-        if (child && child->m_pOwnerWnd == this)
-            child->SetFatherWnd(nullptr);
-    }
+    while (!m_placed.empty())
+        m_placed.back()->SetFatherWnd(nullptr);
     m_children.Clear();
-    m_captured = korvane::Capture();
-    m_recvMsg = korvane::Capture();
+    DropInput();
     m_pFocusCtrl = nullptr;
 }
 
+/// A copy shares the controls of its source, and owns them once the source has ended.
+void CLQWindow::AdoptOrphans() {
+    for (std::size_t i = 0; i < m_children.Size(); ++i) {
+        CLQBaseCtrl* child = m_children.At(i);
+        if (child && !child->m_pOwnerGroup && !child->m_pOwnerWnd)
+            child->SetFatherWnd(this);
+    }
+}
+
+void CLQWindow::DropInput() {
+    m_captured = korvane::Capture();
+    m_recvMsg = korvane::Capture();
+    m_keyPressed = korvane::Capture();
+    m_bHoldsPress = false;
+    korvane::DropPresses(m_children);
+}
+
 void CLQWindow::ForgetCtrl(CLQBaseCtrl* ctrl) {
-    if (m_captured.ctrl == ctrl)
-        m_captured = korvane::Capture();
-    if (m_recvMsg.ctrl == ctrl)
-        m_recvMsg = korvane::Capture();
+    m_placed.erase(std::remove(m_placed.begin(), m_placed.end(), ctrl), m_placed.end());
+    for (korvane::Capture* capture : {&m_captured, &m_recvMsg, &m_keyPressed}) {
+        if (capture->ctrl == ctrl)
+            *capture = korvane::Capture();
+    }
     if (m_pFocusCtrl == ctrl)
         m_pFocusCtrl = nullptr;
 }
@@ -93,9 +101,7 @@ void CLQWindow::SetShow(bool show) {
     if (show) {
         InvalidateRect(ScreenRect());
     } else {
-        m_captured = korvane::Capture();
-        m_recvMsg = korvane::Capture();
-        m_bHoldsPress = false;
+        DropInput();
         CLQScreen::GetInstance()->InvalidateRect(ScreenRect());
     }
 }
@@ -114,6 +120,7 @@ void CLQWindow::Draw(CLQSurfHandle& target) {
     const _LQRect area = korvane::Intersect(surface->GetClip(), ScreenRect());
     if (korvane::IsEmpty(area))
         return;
+    AdoptOrphans();
     const korvane::DrawClip clip(*surface, area);
     FillBkgRect(target, area.left, area.top, area.right, area.bottom);
     korvane::DrawChildren(m_children, target, *surface);
@@ -186,40 +193,21 @@ void CLQWindow::ClearUpdateRectVec() {
     m_updateRects.Clear();
 }
 
-bool CLQWindow::HasBackground() const {
-    return m_bBkgColor || m_surfBkg.GetSurface();
-}
-
 void CLQWindow::FillBkgRect(CLQSurfHandle& target, int left, int top, int right, int bottom) {
     CLQSurface* surface = target.GetSurface();
     if (!surface)
         return;
-    _LQRect rect;
-    rect.left = left;
-    rect.right = right;
-    rect.top = top;
-    rect.bottom = bottom;
-    rect = korvane::Intersect(rect, ScreenRect());
-    if (korvane::IsEmpty(rect))
-        return;
-    const korvane::DrawClip clip(*surface, rect);
-    if (m_bBkgColor)
-        target.FillRect(rect.left, rect.top, rect.right, rect.bottom, m_colorBkg, m_colorBkg.a != 255);
-    target.BitBlt(m_surfBkg, m_nX, m_nY, m_nWidth, m_nHeight, 0, 0);
+    const korvane::DrawClip clip(*surface, korvane::RectOfEdges(left, top, right, bottom));
+    m_background.Draw(target, ScreenRect());
 }
 
 void CLQWindow::SetBkgSurf(const wchar_t* file) {
-    m_strBkgFile = file ? file : L"";
-    m_surfBkg.Release();
-    if (!m_strBkgFile.empty())
-        m_surfBkg = CLQSurfManager::GetInstance()->CreateSurface(m_strBkgFile.c_str(), true);
+    m_background.SetImage(file);
     InvalidateRect(ScreenRect());
 }
 
 void CLQWindow::EnableBkgColor(bool enable, _LQColor* color) {
-    m_bBkgColor = enable;
-    if (color)
-        m_colorBkg = *color;
+    m_background.EnableColor(enable, color);
     InvalidateRect(ScreenRect());
 }
 
@@ -241,26 +229,9 @@ const korvane::UpdateRegion& CLQWindow::GetUpdateRects() const {
 }
 
 bool CLQWindow::IsOpaqueIn(const _LQRect& rect) {
-    if (!IsShow() || !korvane::Covers(ScreenRect(), rect))
-        return false;
-    if (m_bBkgColor && m_colorBkg.a == 255)
-        return true;
-    const CLQSurface* background = m_surfBkg.GetSurface();
-    if (!background || !background->IsOpaque())
-        return false;
-    _LQRect picture;
-    picture.left = m_nX;
-    picture.right = m_nX + background->GetWidth();
-    picture.top = m_nY;
-    picture.bottom = m_nY + background->GetHeight();
-    return korvane::Covers(picture, rect);
+    return IsShow() && m_background.IsOpaqueIn(ScreenRect(), rect);
 }
 
 _LQRect CLQWindow::ScreenRect() const {
-    _LQRect rect;
-    rect.left = m_nX;
-    rect.right = m_nX + m_nWidth;
-    rect.top = m_nY;
-    rect.bottom = m_nY + m_nHeight;
-    return rect;
+    return korvane::RectOfSize(m_nX, m_nY, m_nWidth, m_nHeight);
 }

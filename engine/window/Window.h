@@ -1,7 +1,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
+#include "engine/window/Background.h"
 #include "engine/window/BaseCtrl.h"
 #include "engine/window/ChildList.h"
 #include "engine/window/ChildRouting.h"
@@ -79,23 +81,26 @@ class KORVANE_API CLQWindow : public CLQWnd {
 
     _LQRect ScreenRect() const;
     void AbandonChildren();
+    void AdoptOrphans();
+    void DropInput();
     void ForgetCtrl(CLQBaseCtrl* ctrl);
-    bool HasBackground() const;
     bool RoutePointer(const _LQMessage& msg);
     bool RouteKey(const _LQMessage& msg);
-    bool PressFocused(const _LQMessage& key);
+    bool PressFocused();
+    bool ReleasePressed();
     bool MoveFocus(int key);
 
     korvane::ChildList m_children;
+    /// All controls whose owner this window is, those inside groups included.
+    std::vector<CLQBaseCtrl*> m_placed;
     korvane::UpdateRegion m_updateRects;
     korvane::Capture m_captured;
     korvane::Capture m_recvMsg;
+    /// The control that a key has pressed.
+    korvane::Capture m_keyPressed;
     bool m_bHoldsPress = false;
     bool m_bUpdateRect = true;
     CLQBaseCtrl* m_pFocusCtrl = nullptr;
     korvane::LifeWatch m_focusLife;
-    std::wstring m_strBkgFile;
-    CLQSurfHandle m_surfBkg;
-    bool m_bBkgColor = false;
-    _LQColor m_colorBkg;
+    korvane::Background m_background;
 };

@@ -2,6 +2,7 @@
 #include <limits>
 #include <vector>
 
+#include "engine/core/Rect.h"
 #include "engine/system/System.h"
 #include "engine/window/GroupCtrl.h"
 #include "engine/window/Window.h"
@@ -27,13 +28,17 @@ struct Point {
 };
 
 Point Center(const CLQBaseCtrl& ctrl) {
-    int x;
-    int y;
-    int width;
-    int height;
-    ctrl.GetScreenXY(x, y);
-    ctrl.GetSize(width, height);
-    return {x + width / 2, y + height / 2};
+    const _LQRect rect = ctrl.GetScreenRect();
+    return {rect.left + (rect.right - rect.left) / 2, rect.top + (rect.bottom - rect.top) / 2};
+}
+
+_LQMessage AtCenter(const CLQBaseCtrl& ctrl, unsigned int code) {
+    const Point center = Center(ctrl);
+    _LQMessage msg;
+    msg.code = code;
+    msg.x = static_cast<int>(center.x);
+    msg.y = static_cast<int>(center.y);
+    return msg;
 }
 
 /// How far `to` lies from `from` in the key's direction; negative when it does not lie there. A step aside
@@ -68,49 +73,57 @@ bool CLQWindow::DoMessage(_LQMessage* msg) {
         case korvane::kMsgPress:
         case korvane::kMsgMove:
         case korvane::kMsgRelease:
-            return m_bEnabled && m_bRecvMsg && RoutePointer(*msg);
+            return m_bRecvMsg && RoutePointer(*msg);
         case korvane::kMsgKeyDown:
         case korvane::kMsgKeyUp:
             return m_bEnabled && m_bRecvMsg && RouteKey(*msg);
         default:
+            AdoptOrphans();
             return korvane::RouteToChildren(m_children, m_captured, *msg, WatchLife());
     }
 }
 
 bool CLQWindow::RoutePointer(const _LQMessage& msg) {
-    if (CLQBaseCtrl* receiver = m_recvMsg.Get()) {
-        if (msg.code == korvane::kMsgRelease) {
-            m_recvMsg = korvane::Capture();
-            m_captured = korvane::Capture();
-            m_bHoldsPress = false;
+    AdoptOrphans();
+    if (msg.code != korvane::kMsgPress) {
+        if (m_bHoldsPress) {
+            if (msg.code == korvane::kMsgRelease)
+                m_bHoldsPress = false;
+            return true;
         }
-        _LQMessage copy = msg;
-        return receiver->DoMessage(&copy);
+        if (CLQBaseCtrl* receiver = m_recvMsg.Get()) {
+            if (msg.code == korvane::kMsgRelease) {
+                m_recvMsg = korvane::Capture();
+                m_captured = korvane::Capture();
+            }
+            _LQMessage copy = msg;
+            return receiver->DoMessage(&copy);
+        }
+        return m_bEnabled && korvane::RouteToChildren(m_children, m_captured, msg, WatchLife());
     }
-    if (msg.code == korvane::kMsgPress) {
-        m_captured = korvane::Capture();
-        m_bHoldsPress = false;
-        const _LQRect rect = ScreenRect();
-        if (msg.x < rect.left || msg.x >= rect.right || msg.y < rect.top || msg.y >= rect.bottom)
-            return false;
+
+    m_captured = korvane::Capture();
+    m_bHoldsPress = false;
+    if (!korvane::Contains(ScreenRect(), msg.x, msg.y))
+        return false;
+    if (m_bEnabled) {
         const korvane::LifeWatch self = WatchLife();
-        if (korvane::RouteToChildren(m_children, m_captured, msg, self))
+        if (CLQBaseCtrl* receiver = m_recvMsg.Get()) {
+            _LQMessage copy = msg;
+            receiver->DoMessage(&copy);
+            // Also when it does not want the press: what follows is its alone.
             return true;
-        if (!self.IsAlive())
+        }
+        if (korvane::RouteToChildren(m_children, m_captured, msg, self) || !self.IsAlive())
             return true;
-        // What a background hides is not to be touched through it.
-        m_bHoldsPress = HasBackground();
-        return m_bHoldsPress;
     }
-    if (m_bHoldsPress) {
-        if (msg.code == korvane::kMsgRelease)
-            m_bHoldsPress = false;
-        return true;
-    }
-    return korvane::RouteToChildren(m_children, m_captured, msg, WatchLife());
+    // What a background hides is not to be touched through it.
+    m_bHoldsPress = m_background.IsVisible();
+    return m_bHoldsPress;
 }
 
 bool CLQWindow::RouteKey(const _LQMessage& msg) {
+    AdoptOrphans();
     const korvane::LifeWatch self = WatchLife();
     if (CLQBaseCtrl* focus = GetFocusCtrl()) {
         _LQMessage copy = msg;
@@ -118,26 +131,32 @@ bool CLQWindow::RouteKey(const _LQMessage& msg) {
             return true;
     }
     if (msg.param == VK_RETURN || msg.param == VK_SPACE)
-        return PressFocused(msg);
+        return msg.code == korvane::kMsgKeyDown ? PressFocused() : ReleasePressed();
     if (msg.code == korvane::kMsgKeyDown && (msg.param == VK_TAB || IsDirection(msg.param)))
         return MoveFocus(msg.param);
     return false;
 }
 
-bool CLQWindow::PressFocused(const _LQMessage& key) {
+bool CLQWindow::PressFocused() {
     CLQBaseCtrl* focus = GetFocusCtrl();
     if (!focus || !IsCursorState() || !focus->IsOwnerShow() || !focus->IsWindowEnabled() ||
         !focus->IsRecvMsgEnabled())
         return false;
     // Holding the key down repeats it; a press that is held already is not begun again.
-    if (key.code == korvane::kMsgKeyDown && focus->IsPressed())
+    if (m_keyPressed.Get())
         return true;
-    const Point center = Center(*focus);
-    _LQMessage msg;
-    msg.code = key.code == korvane::kMsgKeyDown ? korvane::kMsgPress : korvane::kMsgRelease;
-    msg.x = static_cast<int>(center.x);
-    msg.y = static_cast<int>(center.y);
+    m_keyPressed.Set(focus);
+    _LQMessage msg = AtCenter(*focus, korvane::kMsgPress);
     return focus->DoMessage(&msg);
+}
+
+bool CLQWindow::ReleasePressed() {
+    CLQBaseCtrl* pressed = m_keyPressed.Get();
+    m_keyPressed = korvane::Capture();
+    if (!pressed)
+        return false;
+    _LQMessage msg = AtCenter(*pressed, korvane::kMsgRelease);
+    return pressed->DoMessage(&msg);
 }
 
 bool CLQWindow::MoveFocus(int key) {
@@ -155,12 +174,9 @@ bool CLQWindow::MoveFocus(int key) {
     }
     // The first key shows where the focus is; the next ones move it.
     if (!IsCursorState() || current == found.size()) {
+        if (current == found.size())
+            SetFocusCtrl(found.front());
         korvane::SetCursorState(true);
-        CLQBaseCtrl* shown = current == found.size() ? found.front() : focus;
-        if (shown == focus)
-            focus->Invalidate();
-        else
-            SetFocusCtrl(shown);
         return true;
     }
     if (key == VK_TAB) {

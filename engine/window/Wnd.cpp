@@ -1,7 +1,6 @@
 #include "engine/window/Wnd.h"
 
 #include <algorithm>
-#include <new>
 
 namespace {
 
@@ -85,6 +84,13 @@ void* CLQWnd::operator new(std::size_t size) {
     return memory;
 }
 
+void* CLQWnd::operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    void* memory = ::operator new(size, std::nothrow);
+    if (memory)
+        AddPending(memory);
+    return memory;
+}
+
 void* CLQWnd::operator new(std::size_t, void* where) noexcept {
     return where;
 }
@@ -93,6 +99,10 @@ void CLQWnd::operator delete(void* memory) noexcept {
     // Still noted when the constructor has thrown.
     TakePending(memory);
     ::operator delete(memory);
+}
+
+void CLQWnd::operator delete(void* memory, const std::nothrow_t&) noexcept {
+    operator delete(memory);
 }
 
 void CLQWnd::operator delete(void*, void*) noexcept {}

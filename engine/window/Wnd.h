@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <new>
 #include <string>
 
 #include "engine/core/Life.h"
@@ -80,10 +81,12 @@ class KORVANE_API CLQWnd {
     korvane::LifeWatch WatchLife() const;
 
     /// Groups and windows delete the children that were created with `new`, and only those: these operators
-    /// note which objects were.
+    /// note which objects were. CLQWnd has to be the first base of a class for that.
     static void* operator new(std::size_t size);
+    static void* operator new(std::size_t size, const std::nothrow_t&) noexcept;
     static void* operator new(std::size_t size, void* where) noexcept;
     static void operator delete(void* memory) noexcept;
+    static void operator delete(void* memory, const std::nothrow_t&) noexcept;
     static void operator delete(void* memory, void* where) noexcept;
     bool IsCreatedWithNew() const;
 

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+#include "platform/Simulation.h"
+
 #include "tests/support/Scene.h"
 #include "tests/window/Probe.h"
 
@@ -73,6 +75,48 @@ TEST_F(Input, DropsAPressWhenItsControlIsHiddenMeanwhile) {
     EXPECT_FALSE(left.IsPressed());
 }
 
+TEST_F(Input, DropsAPressWhenItsControlTurnsDeafMeanwhile) {
+    scene.Press(20, 20);
+    left.EnableRecvMsg(false);
+    scene.Release(20, 20);
+    EXPECT_EQ(left.releases, 0);
+    EXPECT_FALSE(left.IsPressed());
+}
+
+TEST_F(Input, DropsAPressWhenItsGroupIsDisabledOrItsWindowHiddenMeanwhile) {
+    CLQGroupCtrl group;
+    Probe inner;
+    inner.Create(300, 300, 50, 50);
+    group.AddChild(&inner);
+    window.AddChild(&group);
+    scene.Press(310, 310);
+    group.EnableWindow(false);
+    scene.Release(310, 310);
+    EXPECT_EQ(inner.releases, 0);
+    EXPECT_FALSE(inner.IsPressed());
+    group.EnableWindow(true);
+    scene.Press(310, 310);
+    window.SetShow(false);
+    scene.Release(310, 310);
+    EXPECT_EQ(inner.releases, 0);
+    EXPECT_FALSE(inner.IsPressed());
+}
+
+TEST_F(Input, LeavesOutAControlThatAnotherOneHasJustRemoved) {
+    right.MoveTo(10, 10);
+    right.onMessage = [this](const _LQMessage&) { window.DelChild(&left, false); };
+    right.SetSize(5, 5);
+    scene.Press(50, 50);
+    EXPECT_TRUE(left.messages.empty());
+}
+
+TEST_F(Input, DoesNotFollowAControlThatRemovedItselfDuringItsPress) {
+    left.onMessage = [this](const _LQMessage&) { window.DelChild(&left, false); };
+    scene.Press(20, 20);
+    scene.Release(20, 20);
+    EXPECT_EQ(left.messages.size(), 1U);
+}
+
 TEST_F(Input, GivesTheTopmostWindowUnderThePointTheFirstSay) {
     CLQWindow above;
     above.Create(0, 0, 150, 150);
@@ -96,6 +140,10 @@ TEST_F(Input, IsHeldBackByAWindowWithABackground) {
     scene.Press(20, 20);
     scene.Release(20, 20);
     EXPECT_TRUE(left.messages.empty());
+    above.EnableWindow(false);
+    scene.Press(20, 20);
+    scene.Release(20, 20);
+    EXPECT_TRUE(left.messages.empty()) << "a disabled window holds back all the same";
     scene.Press(250, 50);
     scene.Release(250, 50);
     EXPECT_EQ(right.releases, 1) << "beside the window nothing is held back";
@@ -106,11 +154,7 @@ TEST_F(Input, GoesToTheNamedReceiverUntilTheNextRelease) {
     scene.Press(20, 20);
     scene.Release(20, 20);
     EXPECT_TRUE(left.messages.empty());
-    EXPECT_EQ(right.messages.size(), 1U);
-    EXPECT_EQ(LastCode(right), korvane::kMsgPress) << "it took no press, so the screen sends it no release";
-    _LQMessage release;
-    release.code = korvane::kMsgRelease;
-    window.DoMessage(&release);
+    EXPECT_EQ(right.messages.size(), 2U) << "press and release, also when it wants neither";
     EXPECT_EQ(LastCode(right), korvane::kMsgRelease);
     scene.Press(20, 20);
     EXPECT_EQ(LastCode(left), korvane::kMsgPress);
@@ -189,6 +233,32 @@ TEST_F(Input, MovesTheFocusByKeysAndPressesIt) {
     EXPECT_TRUE(left.IsFocus());
     scene.Press(250, 50);
     EXPECT_FALSE(IsCursorState()) << "a touch ends the cursor mode";
+}
+
+TEST_F(Input, ReleasesWhatAKeyPressedWhateverHappensMeanwhile) {
+    left.EnableFocus(true);
+    right.EnableFocus(true);
+    scene.Key(VK_RIGHT);
+    const HWND hwnd = CLQScreen::GetInstance()->GetHWND();
+    korvane::PostInput(hwnd, WM_KEYDOWN, VK_RETURN, 0);
+    korvane::PostInput(hwnd, WM_KEYDOWN, VK_RETURN, 0);
+    scene.Pump();
+    EXPECT_TRUE(left.IsPressed());
+    scene.Press(700, 400);
+    scene.Release(700, 400);
+    korvane::PostInput(hwnd, WM_KEYUP, VK_RETURN, 0);
+    scene.Pump();
+    EXPECT_EQ(left.releases, 1);
+    EXPECT_FALSE(left.IsPressed());
+}
+
+TEST_F(Input, TakesTheFocusFromAControlThatLeavesItsWindow) {
+    left.EnableFocus(true);
+    window.SetFocusCtrl(&left);
+    window.DelChild(&left, false);
+    EXPECT_FALSE(left.IsFocus());
+    EXPECT_EQ(left.focusLost, 1);
+    EXPECT_EQ(window.GetFocusCtrl(), nullptr);
 }
 
 TEST_F(Input, HandsSystemInformationChangesToEveryWindow) {

@@ -99,6 +99,56 @@ TEST(Ownership, CopiesEndInAnyOrder) {
     EXPECT_EQ(alive, 0);
 }
 
+TEST(Ownership, ACopyTakesTheChildrenOverWhenItsSourceEnds) {
+    auto source = std::make_unique<CLQWindow>();
+    source->Create(0, 0, 100, 100);
+    auto* child = new Probe;
+    child->Create(1, 2, 10, 10);
+    source->AddChild(child);
+    CLQWindow copy(*source);
+    copy.Create(50, 50, 100, 100);
+    source.reset();
+    CLQSurfHandle canvas = CLQSurfManager::GetInstance()->CreateSurface(200, 200, eSurface_ARGB8888, true);
+    copy.Draw(canvas);
+    EXPECT_EQ(child->GetFatherWnd(), &copy);
+    int x;
+    int y;
+    child->GetScreenXY(x, y);
+    EXPECT_EQ(x, 51);
+    EXPECT_EQ(y, 52);
+}
+
+TEST(Ownership, AGroupMayBeReplacedByACopyOfItsOwnChild) {
+    CLQGroupCtrl group;
+    auto* inner = new CLQGroupCtrl;
+    auto* leaf = new Probe;
+    inner->AddChild(leaf);
+    group.AddChild(inner);
+    group = *inner;
+    ASSERT_EQ(group.GetChildCount(), 1);
+    EXPECT_EQ(group.GetChild(0), leaf);
+    EXPECT_EQ(leaf->GetFatherGroup(), &group);
+}
+
+TEST(Ownership, AWindowMayEndBeforeAControlThatOnlyNamesItAsOwner) {
+    Probe control;
+    {
+        CLQWindow window;
+        control.SetFatherWnd(&window);
+    }
+    EXPECT_EQ(control.GetFatherWnd(), nullptr);
+    control.Invalidate();
+}
+
+TEST(Ownership, ObjectsMayBeCreatedWithoutExceptions) {
+    CLQGroupCtrl group;
+    int alive = 0;
+    group.AddChild(new (std::nothrow) Counted(alive));
+    EXPECT_EQ(alive, 1);
+    EXPECT_TRUE(group.DelChild(group.GetChild(0), true));
+    EXPECT_EQ(alive, 0);
+}
+
 TEST(Ownership, AClonedGroupHasChildrenOfItsOwn) {
     CLQGroupCtrl group;
     auto* child = new CLQBaseCtrl;

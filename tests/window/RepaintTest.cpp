@@ -172,6 +172,20 @@ TEST_F(Repaint, WaitsWhileUpdateRectanglesAreOff) {
     EXPECT_EQ(lower.draws, 1);
 }
 
+TEST_F(Repaint, IsNotLostWhenDrawingAsksForMore) {
+    struct Animated : Probe {
+        void Draw(CLQSurfHandle& target) override {
+            Probe::Draw(target);
+            if (draws < 5)
+                Invalidate();
+        }
+    } animated;
+    animated.Create(500, 300, 20, 20);
+    window.AddChild(&animated);
+    scene.Pump();
+    EXPECT_EQ(animated.draws, 5);
+}
+
 TEST_F(Repaint, FollowsTheOwnerUpdateSwitch) {
     lower.EnableOwnerUpdate(false);
     lower.Invalidate();

@@ -109,7 +109,7 @@ HWND FindWindowW(LPCWSTR className, LPCWSTR title) {
         for (auto at = session.windows.rbegin(); at != session.windows.rend(); ++at) {
             const Window& window = *at->second;
             const bool classFits = !className || window.windowClass == windowClass;
-            if ((window.style & WS_CHILD) == 0 && classFits && (!title || window.title == title))
+            if ((window.style & WS_CHILD) == 0 && classFits && (!title || EqualFolded(window.title, title)))
                 return window.handle;
         }
     }
