@@ -7,6 +7,7 @@
 
 #include "engine/draw/PixelFormat.h"
 #include "engine/draw/SurfManager.h"
+#include "engine/draw/SurfaceState.h"
 
 namespace korvane {
 namespace {
@@ -85,20 +86,17 @@ bool ParseHeader(const std::uint8_t* bytes, LqiHeader& header) {
     return true;
 }
 
-void PutHeader(const CLQSurface& surface, LqiEncoding encoding, std::size_t payloadSize, std::uint8_t* file) {
+void PutHeader(const SurfaceState& surface, LqiEncoding encoding, std::size_t payloadSize,
+               std::uint8_t* file) {
     std::memset(file, 0, kLqiHeaderSize);
     std::memcpy(file, kMagic, sizeof kMagic);
     file[kVersionAt] = kVersion;
-    file[kTypeAt] = static_cast<std::uint8_t>(surface.GetSurfType());
+    file[kTypeAt] = static_cast<std::uint8_t>(surface.type);
     file[kEncodingAt] = static_cast<std::uint8_t>(encoding);
-    PutU32(file + kWidthAt, static_cast<std::uint32_t>(surface.GetWidth()));
-    PutU32(file + kHeightAt, static_cast<std::uint32_t>(surface.GetHeight()));
+    PutU32(file + kWidthAt, static_cast<std::uint32_t>(surface.width));
+    PutU32(file + kHeightAt, static_cast<std::uint32_t>(surface.height));
     PutU32(file + kPayloadSizeAt, static_cast<std::uint32_t>(payloadSize));
     PutU32(file + kChecksumAt, Checksum(file, file + kLqiHeaderSize, payloadSize));
-}
-
-std::size_t PixelBytesOf(const CLQSurface& surface) {
-    return static_cast<std::size_t>(surface.GetPitch()) * static_cast<std::size_t>(surface.GetHeight());
 }
 
 }  // namespace
@@ -159,30 +157,31 @@ _eErrorInfo DecodeLqi(const std::uint8_t* bytes, std::size_t size, LqiImage& ima
     return eError_None;
 }
 
-void WriteRawLqi(const CLQSurface& surface, std::uint8_t* bytes) {
-    const std::size_t size = PixelBytesOf(surface);
-    std::memcpy(bytes + kLqiHeaderSize, surface.GetPixels(), size);
+void WriteRawLqi(const SurfaceState& surface, std::uint8_t* bytes) {
+    const std::size_t size = surface.pixels.Size();
+    std::memcpy(bytes + kLqiHeaderSize, surface.pixels.Data(), size);
     PutHeader(surface, LqiEncoding::Raw, size, bytes);
 }
 
 std::vector<std::uint8_t> EncodeLqi(const CLQSurface& surface, LqiEncoding encoding) {
-    const std::size_t size = PixelBytesOf(surface);
+    const SurfaceState& state = surface.State();
+    const std::size_t size = state.pixels.Size();
     if (size == 0)
         return {};
     std::vector<std::uint8_t> file(kLqiHeaderSize + size);
     if (encoding == LqiEncoding::Lz4) {
         // Room for one byte less than the raw form: a block that does not fit is not worth having.
         const int packed =
-            LZ4_compress_HC(static_cast<const char*>(surface.GetPixels()),
+            LZ4_compress_HC(reinterpret_cast<const char*>(state.pixels.Data()),
                             reinterpret_cast<char*>(file.data() + kLqiHeaderSize), static_cast<int>(size),
                             static_cast<int>(size) - 1, LZ4HC_CLEVEL_MAX);
         if (packed > 0) {
             file.resize(kLqiHeaderSize + static_cast<std::size_t>(packed));
-            PutHeader(surface, LqiEncoding::Lz4, static_cast<std::size_t>(packed), file.data());
+            PutHeader(state, LqiEncoding::Lz4, static_cast<std::size_t>(packed), file.data());
             return file;
         }
     }
-    WriteRawLqi(surface, file.data());
+    WriteRawLqi(state, file.data());
     return file;
 }
 

@@ -13,6 +13,8 @@ class CLQSurface;
 /// The container of image files and stored surfaces. docs/file-formats.md describes its bytes.
 namespace korvane {
 
+struct SurfaceState;
+
 enum class LqiEncoding : std::uint8_t {
     Raw = 0,  ///< Rows of pixels, top to bottom, without gaps.
     Lz4 = 1,  ///< The same bytes as one LZ4 block.
@@ -51,7 +53,7 @@ KORVANE_API _eErrorInfo ReadLqiHeader(const std::uint8_t* bytes, std::size_t siz
 _eErrorInfo DecodeLqi(const std::uint8_t* bytes, std::size_t size, LqiImage& image);
 
 /// Writes the surface's raw form, kLqiHeaderSize and the pixels' size long, to `bytes`.
-void WriteRawLqi(const CLQSurface& surface, std::uint8_t* bytes);
+void WriteRawLqi(const SurfaceState& surface, std::uint8_t* bytes);
 
 /// The surface as a whole file. Falls back to raw rows where compression does not make it shorter. Empty for
 /// a surface without pixels.

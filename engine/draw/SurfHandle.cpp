@@ -2,6 +2,7 @@
 
 #include "engine/draw/LqiFormat.h"
 #include "engine/draw/Surface.h"
+#include "engine/draw/SurfaceState.h"
 
 CLQSurfHandle::CLQSurfHandle() = default;
 CLQSurfHandle::CLQSurfHandle(std::shared_ptr<CLQSurface> surface) : m_pSurface(std::move(surface)) {}
@@ -30,9 +31,8 @@ void CLQSurfHandle::Release() {
 }
 
 int CLQSurfHandle::CalcStoreMemSize() const {
-    if (!m_pSurface || m_pSurface->GetWidth() == 0)
-        return 0;
-    return static_cast<int>(korvane::kLqiHeaderSize) + m_pSurface->GetPitch() * m_pSurface->GetHeight();
+    const std::size_t size = m_pSurface ? m_pSurface->State().pixels.Size() : 0;
+    return size == 0 ? 0 : static_cast<int>(korvane::kLqiHeaderSize + size);
 }
 
 _eErrorInfo CLQSurfHandle::SaveSurface(const unsigned char* buffer, int size) {
@@ -43,6 +43,6 @@ _eErrorInfo CLQSurfHandle::SaveSurface(const unsigned char* buffer, int size) {
         return eError_InvalidParam;
     if (size < needed)
         return eError_BufferTooSmall;
-    korvane::WriteRawLqi(*m_pSurface, const_cast<unsigned char*>(buffer));
+    korvane::WriteRawLqi(m_pSurface->State(), const_cast<unsigned char*>(buffer));
     return eError_None;
 }

@@ -21,8 +21,7 @@ void Draw(CLQSurfHandle& target, CLQSurfHandle& source, const Block& block) {
 }
 
 /// What a pixel of the target must be after the block has been drawn over `before`.
-std::uint32_t Expected(const CLQSurfHandle& before, const CLQSurfHandle& source, const Block& block, int x,
-                       int y) {
+std::uint32_t Expected(CLQSurfHandle before, CLQSurfHandle source, const Block& block, int x, int y) {
     const std::uint32_t old = PixelOf(before, x, y);
     const std::int64_t column = std::int64_t{x} - block.x;
     const std::int64_t row = std::int64_t{y} - block.y;
@@ -36,8 +35,8 @@ std::uint32_t Expected(const CLQSurfHandle& before, const CLQSurfHandle& source,
     return AsStored(over, before.GetSurfType());
 }
 
-::testing::AssertionResult Matches(const CLQSurfHandle& actual, const CLQSurfHandle& before,
-                                   const CLQSurfHandle& source, const Block& block) {
+::testing::AssertionResult Matches(CLQSurfHandle actual, CLQSurfHandle before, CLQSurfHandle source,
+                                   const Block& block) {
     for (int y = 0; y < actual.GetHeight(); ++y) {
         for (int x = 0; x < actual.GetWidth(); ++x) {
             const std::uint32_t expected = Expected(before, source, block, x, y);
@@ -68,7 +67,7 @@ TEST_P(EveryPairOfTypes, BlendsTheBlockWhereBothSurfacesHaveIt) {
     std::mt19937 random(1);
     CLQSurfHandle source = MakeRandomSurface(23, 17, sourceType, random);
     for (int round = 0; round < 200; ++round) {
-        const CLQSurfHandle before = MakeRandomSurface(31, 19, targetType, random);
+        CLQSurfHandle before = MakeRandomSurface(31, 19, targetType, random);
         CLQSurfHandle target = CopyOf(before);
         const Block block{RandomInt(random, -40, 40), RandomInt(random, -30, 30), RandomInt(random, -2, 50),
                           RandomInt(random, -2, 50),  RandomInt(random, -20, 30), RandomInt(random, -20, 30)};
@@ -82,7 +81,7 @@ TEST_P(EveryPairOfTypes, StaysWithinBoundsForExtremeNumbers) {
     std::mt19937 random(2);
     CLQSurfHandle source = MakeRandomSurface(7, 5, sourceType, random);
     for (int round = 0; round < 2000; ++round) {
-        const CLQSurfHandle before = MakeRandomSurface(9, 6, targetType, random);
+        CLQSurfHandle before = MakeRandomSurface(9, 6, targetType, random);
         CLQSurfHandle target = CopyOf(before);
         const Block block{AnyCoordinate(random, 12), AnyCoordinate(random, 12), AnyCoordinate(random, 12),
                           AnyCoordinate(random, 12), AnyCoordinate(random, 12), AnyCoordinate(random, 12)};
@@ -95,7 +94,7 @@ TEST_P(EveryPairOfTypes, BlendsRowsLongerThanOneTile) {
     const auto [targetType, sourceType] = GetParam();
     std::mt19937 random(3);
     CLQSurfHandle source = MakeRandomSurface(1500, 2, sourceType, random);
-    const CLQSurfHandle before = MakeRandomSurface(1400, 3, targetType, random);
+    CLQSurfHandle before = MakeRandomSurface(1400, 3, targetType, random);
     CLQSurfHandle target = CopyOf(before);
     const Block block{3, 1, 1390, 2, 7, 0};
     Draw(target, source, block);
@@ -112,7 +111,7 @@ TEST_P(EveryTypeWithinOneSurface, CopiesAsIfTheSourceHadBeenCopiedBefore) {
     std::mt19937 random(4);
     for (int round = 0; round < 300; ++round) {
         const int width = round % 20 == 0 ? 1300 : 37;
-        const CLQSurfHandle before = MakeRandomSurface(width, 11, GetParam(), random);
+        CLQSurfHandle before = MakeRandomSurface(width, 11, GetParam(), random);
         CLQSurfHandle surface = CopyOf(before);
         CLQSurfHandle other = surface;
         const Block block{RandomInt(random, -8, 20),       RandomInt(random, -4, 8),
@@ -128,7 +127,7 @@ INSTANTIATE_TEST_SUITE_P(BitBlt, EveryTypeWithinOneSurface, ::testing::ValuesIn(
 TEST(BitBlt, BoundsACopyWhoseSizesAreEdges) {
     std::mt19937 random(5);
     CLQSurfHandle saved = MakeRandomSurface(20, 10, eSurface_ARGB8888, random);
-    const CLQSurfHandle before = MakeRandomSurface(60, 40, eSurface_ARGB8888, random);
+    CLQSurfHandle before = MakeRandomSurface(60, 40, eSurface_ARGB8888, random);
     CLQSurfHandle screen = CopyOf(before);
     screen.BitBlt(saved, 30, 25, 30 + 20, 25 + 10, 0, 0);
     EXPECT_TRUE(Matches(screen, before, saved, Block{30, 25, 20, 10, 0, 0}));
@@ -138,7 +137,7 @@ TEST(BitBlt, DoesNotApplyTheOriginOfTheSource) {
     std::mt19937 random(6);
     CLQSurfHandle source = MakeRandomSurface(20, 10, eSurface_ARGB8888, random);
     source.GetSurface()->SetOrigin(7, 3);
-    const CLQSurfHandle before = MakeRandomSurface(30, 30, eSurface_ARGB8888, random);
+    CLQSurfHandle before = MakeRandomSurface(30, 30, eSurface_ARGB8888, random);
     CLQSurfHandle target = CopyOf(before);
     const Block block{4, 5, 12, 8, 2, 1};
     Draw(target, source, block);

@@ -16,7 +16,7 @@ class EveryType : public ::testing::TestWithParam<_eSurfaceType> {};
 
 TEST_P(EveryType, FillsUpToButNotIncludingTheRightAndBottomEdges) {
     std::mt19937 random(1);
-    const CLQSurfHandle before = MakeRandomSurface(12, 9, GetParam(), random);
+    CLQSurfHandle before = MakeRandomSurface(12, 9, GetParam(), random);
     CLQSurfHandle surface = CopyOf(before);
     _LQColor color{16, 132, 255, 255};
     surface.FillRect(3, 2, 7, 8, color, false);
@@ -31,7 +31,7 @@ TEST_P(EveryType, FillsUpToButNotIncludingTheRightAndBottomEdges) {
 
 TEST_P(EveryType, StoresTheColourWithItsAlphaUnlessItIsToBlend) {
     std::mt19937 random(2);
-    const CLQSurfHandle before = MakeRandomSurface(900, 2, GetParam(), random);
+    CLQSurfHandle before = MakeRandomSurface(900, 2, GetParam(), random);
     CLQSurfHandle stored = CopyOf(before);
     CLQSurfHandle blended = CopyOf(before);
     _LQColor color = HalfRed();
@@ -46,7 +46,7 @@ TEST_P(EveryType, StoresTheColourWithItsAlphaUnlessItIsToBlend) {
 TEST_P(EveryType, TakesAnyEdges) {
     constexpr int kEdges[] = {INT_MIN, INT_MIN + 1, -1, 0, 3, 8, 9, INT_MAX - 1, INT_MAX};
     std::mt19937 random(3);
-    const CLQSurfHandle before = MakeRandomSurface(8, 8, GetParam(), random);
+    CLQSurfHandle before = MakeRandomSurface(8, 8, GetParam(), random);
     _LQColor color{0, 0, 255, 255};
     for (const int left : kEdges) {
         for (const int right : kEdges) {

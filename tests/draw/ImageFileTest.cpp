@@ -52,7 +52,7 @@ class ImageFile : public ::testing::Test {
 
 TEST_F(ImageFile, IsSharedByAllHandlesThatNameIt) {
     Write("Needle.lqi", Image(10));
-    const CLQSurfHandle first = Open(L"Needle.lqi", true);
+    CLQSurfHandle first = Open(L"Needle.lqi", true);
     ASSERT_NE(first.GetSurface(), nullptr);
     EXPECT_EQ(first.GetWidth(), 2);
     EXPECT_EQ(PixelOf(first, 0, 0), 0xFF0A0A0AU);
@@ -68,7 +68,7 @@ TEST_F(ImageFile, IsLoadedApartWhenItIsNotToBeShared) {
     Write("Tile.lqi", Image(10));
     CLQSurfHandle own = Open(L"Tile.lqi", false);
     CLQSurfHandle shared = Open(L"Tile.lqi", true);
-    const CLQSurfHandle other = Open(L"Tile.lqi", false);
+    CLQSurfHandle other = Open(L"Tile.lqi", false);
     EXPECT_NE(own.GetSurface(), shared.GetSurface());
     EXPECT_NE(own.GetSurface(), other.GetSurface());
     SetPixel(own, 0, 0, 0xFFFFFFFFU);

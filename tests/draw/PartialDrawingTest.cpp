@@ -64,11 +64,11 @@ constexpr Operation kOperations[] = {{"BitBlt", MakeBitBlt},
 
 class EveryOperation : public ::testing::TestWithParam<std::tuple<Operation, _eSurfaceType, _eSurfaceType>> {
   protected:
-    void ForRandomDrawings(const std::function<void(const CLQSurfHandle& before, const Drawing&)>& check) {
+    void ForRandomDrawings(const std::function<void(CLQSurfHandle before, const Drawing&)>& check) {
         const auto [operation, targetType, sourceType] = GetParam();
         for (int round = 0; round < 25; ++round) {
             CLQSurfHandle source = MakeRandomSurface(40, 33, sourceType, random_);
-            const CLQSurfHandle before = MakeRandomSurface(kWidth, kHeight, targetType, random_);
+            CLQSurfHandle before = MakeRandomSurface(kWidth, kHeight, targetType, random_);
             check(before, operation.make(source, random_));
             if (HasFatalFailure())
                 return;
@@ -87,7 +87,7 @@ std::vector<int> RandomCuts(int size, std::mt19937& random) {
 }
 
 TEST_P(EveryOperation, DrawsInPartsWhatItDrawsAsAWhole) {
-    ForRandomDrawings([this](const CLQSurfHandle& before, const Drawing& draw) {
+    ForRandomDrawings([this](CLQSurfHandle before, const Drawing& draw) {
         CLQSurfHandle whole = CopyOf(before);
         draw(whole);
         CLQSurfHandle parts = CopyOf(before);
@@ -105,7 +105,7 @@ TEST_P(EveryOperation, DrawsInPartsWhatItDrawsAsAWhole) {
 }
 
 TEST_P(EveryOperation, ChangesNothingOutsideTheClip) {
-    ForRandomDrawings([this](const CLQSurfHandle& before, const Drawing& draw) {
+    ForRandomDrawings([this](CLQSurfHandle before, const Drawing& draw) {
         CLQSurfHandle whole = CopyOf(before);
         draw(whole);
         CLQSurfHandle clipped = CopyOf(before);
@@ -123,7 +123,7 @@ TEST_P(EveryOperation, ChangesNothingOutsideTheClip) {
 }
 
 TEST_P(EveryOperation, DrawsThePartThatASurfaceWithAnOriginShows) {
-    ForRandomDrawings([this](const CLQSurfHandle& before, const Drawing& draw) {
+    ForRandomDrawings([this](CLQSurfHandle before, const Drawing& draw) {
         CLQSurfHandle whole = CopyOf(before);
         draw(whole);
         const int left = RandomInt(random_, 0, 50);

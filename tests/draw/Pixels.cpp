@@ -42,7 +42,7 @@ bool Is16Bit(_eSurfaceType type) {
     return type == eSurface_RGB565 || type == eSurface_ARGB4444;
 }
 
-std::uint8_t* AddressOf(const CLQSurfHandle& surface, int x, int y) {
+std::uint8_t* AddressOf(CLQSurfHandle surface, int x, int y) {
     auto* const first = static_cast<std::uint8_t*>(surface.GetSurface()->GetPixels());
     return first + y * surface.GetSurface()->GetPitch() + x * (Is16Bit(surface.GetSurfType()) ? 2 : 4);
 }
@@ -79,7 +79,7 @@ CLQSurfHandle MakeRandomSurface(int width, int height, _eSurfaceType type, std::
     return surface;
 }
 
-CLQSurfHandle CopyOf(const CLQSurfHandle& surface) {
+CLQSurfHandle CopyOf(CLQSurfHandle surface) {
     CLQSurfHandle copy = MakeSurface(surface.GetWidth(), surface.GetHeight(), surface.GetSurfType());
     const std::vector<std::uint8_t> bytes = BytesOf(surface);
     std::copy(bytes.begin(), bytes.end(), AddressOf(copy, 0, 0));
@@ -87,13 +87,13 @@ CLQSurfHandle CopyOf(const CLQSurfHandle& surface) {
     return copy;
 }
 
-std::vector<std::uint8_t> BytesOf(const CLQSurfHandle& surface) {
+std::vector<std::uint8_t> BytesOf(CLQSurfHandle surface) {
     const std::uint8_t* const first = AddressOf(surface, 0, 0);
     const std::uint8_t* const end = AddressOf(surface, 0, surface.GetHeight());
     return {first, end};
 }
 
-std::uint32_t PixelOf(const CLQSurfHandle& surface, int x, int y) {
+std::uint32_t PixelOf(CLQSurfHandle surface, int x, int y) {
     const std::uint8_t* const from = AddressOf(surface, x, y);
     if (Is16Bit(surface.GetSurfType())) {
         std::uint16_t packed = 0;

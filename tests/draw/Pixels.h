@@ -19,13 +19,13 @@ CLQSurfHandle MakeSurface(int width, int height, _eSurfaceType type = eSurface_A
 CLQSurfHandle MakeRandomSurface(int width, int height, _eSurfaceType type, std::mt19937& random);
 
 /// A new surface with the same size, type and pixels.
-CLQSurfHandle CopyOf(const CLQSurfHandle& surface);
+CLQSurfHandle CopyOf(CLQSurfHandle surface);
 
 /// The bytes of all rows, as the surface stores them.
-std::vector<std::uint8_t> BytesOf(const CLQSurfHandle& surface);
+std::vector<std::uint8_t> BytesOf(CLQSurfHandle surface);
 
 /// One pixel as premultiplied 0xAARRGGBB, and back. Writing tells the surface.
-std::uint32_t PixelOf(const CLQSurfHandle& surface, int x, int y);
+std::uint32_t PixelOf(CLQSurfHandle surface, int x, int y);
 void SetPixel(CLQSurfHandle& surface, int x, int y, std::uint32_t argb);
 
 /// What a surface of the type holds after `argb` was stored in it, as premultiplied 0xAARRGGBB.

@@ -19,7 +19,7 @@ CLQSurfHandle Gradient(int width, int height, _eSurfaceType type = eSurface_ARGB
     return surface;
 }
 
-double Filtered(const CLQSurfHandle& source, double x, double y, int shift) {
+double Filtered(CLQSurfHandle source, double x, double y, int shift) {
     const auto at = [&](int column, int row) {
         column = std::clamp(column, 0, source.GetWidth() - 1);
         row = std::clamp(row, 0, source.GetHeight() - 1);

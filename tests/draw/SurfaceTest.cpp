@@ -15,7 +15,7 @@ void ExpectRect(const _LQRect& rect, int left, int right, int top, int bottom) {
 }
 
 TEST(SurfHandle, IsEmptyAtFirst) {
-    const CLQSurfHandle handle;
+    CLQSurfHandle handle;
     EXPECT_EQ(handle.GetSurface(), nullptr);
     EXPECT_EQ(handle.GetWidth(), 0);
     EXPECT_EQ(handle.GetHeight(), 0);
@@ -50,7 +50,7 @@ TEST(SurfHandle, GivesTheSurfaceBackWithTheLastCopy) {
 
 TEST(SurfManager, MakesBlankSurfacesOfEveryType) {
     for (const _eSurfaceType type : kSurfaceTypes) {
-        const CLQSurfHandle surface = MakeSurface(70, 30, type);
+        CLQSurfHandle surface = MakeSurface(70, 30, type);
         EXPECT_EQ(surface.GetWidth(), 70);
         EXPECT_EQ(surface.GetHeight(), 30);
         EXPECT_EQ(surface.GetSurface()->GetWidth(), 70);
@@ -80,7 +80,7 @@ TEST(SurfManager, RefusesSizesAndTypesThatNoSurfaceHas) {
 }
 
 TEST(Surface, ReportsTheWholeOfItselfAsItsClipUntilOneIsSet) {
-    const CLQSurfHandle handle = MakeSurface(40, 30);
+    CLQSurfHandle handle = MakeSurface(40, 30);
     CLQSurface& surface = *handle.GetSurface();
     ExpectRect(surface.GetClip(), 0, 40, 0, 30);
     surface.SetOrigin(100, -20);

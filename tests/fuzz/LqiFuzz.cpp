@@ -24,7 +24,7 @@ void Sign(std::vector<std::uint8_t>& file) {
         file[kChecksumAt + i] = static_cast<std::uint8_t>(sum >> (8 * i));
 }
 
-std::vector<std::uint8_t> PixelsOf(const CLQSurface& surface) {
+std::vector<std::uint8_t> PixelsOf(CLQSurface& surface) {
     const auto* const first = static_cast<const std::uint8_t*>(surface.GetPixels());
     return std::vector<std::uint8_t>(first, first + std::ptrdiff_t{surface.GetPitch()} * surface.GetHeight());
 }
