@@ -74,7 +74,8 @@ void CopyTiles(const Copy& copy) {
 
 /// Opaque pixels of one format other than the kernels'.
 void CopyBytes(const Copy& copy) {
-    const auto length = static_cast<std::size_t>(copy.box.width * korvane::BytesPerPixel(copy.target.type));
+    const std::size_t length = static_cast<std::size_t>(copy.box.width) *
+                               static_cast<std::size_t>(korvane::BytesPerPixel(copy.target.type));
     for (int row = 0; row < copy.box.height; ++row) {
         std::memcpy(copy.target.At(copy.box.x, copy.box.y + row),
                     copy.source.At(copy.sourceX, copy.sourceY + row), length);
