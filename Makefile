@@ -5,7 +5,7 @@ PRESET := release
 JOBS := $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help setup build run test bench check clean
+.PHONY: help setup configure build run test bench check clean
 
 help:  ## List the commands
 	@sed -n 's/^\([a-z]*\):.*## /  make \1\t/p' Makefile | expand -t 16
@@ -13,17 +13,21 @@ help:  ## List the commands
 setup:  ## Install the Debian packages that are missing
 	@tools/setup/install-packages
 
-build: setup  ## Build everything (PRESET=debug, asan or release; release unless told)
+configure: setup
 	@cmake --preset $(PRESET) --log-level=WARNING
+
+build: configure  ## Build everything (PRESET=debug, asan or release; release unless told)
 	@cmake --build --preset $(PRESET) --parallel $(JOBS)
 
-run: build  ## Open the head unit, or without a display play its tour into build/tour
+run: configure  ## Open the head unit, or without a display play its tour into build/tour
+	@cmake --build --preset $(PRESET) --parallel $(JOBS) --target headunit
 	@tools/run-headunit build/$(PRESET)/bin/headunit build/tour
 
 test: build  ## Run every test
 	@ctest --preset $(PRESET) --parallel $(JOBS)
 
-bench: build  ## Measure speed, start, memory and size
+bench: configure  ## Measure speed, start, memory and size
+	@cmake --build --preset $(PRESET) --parallel $(JOBS) --target korvane_bench
 	@build/$(PRESET)/bin/korvane_bench
 
 check: setup  ## Check format, layering and that each header compiles alone
