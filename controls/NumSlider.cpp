@@ -90,6 +90,7 @@ void CLQNumSlider::SetBoundScalFreqID(_FreqStruct_ bounds) {
     m_bDecimal = bounds.decimal;
     SetCurrFreqID(bounds.freqID.c_str());
     m_fValue = 0.0f;
+    SplitValue();
     Invalidate();
 }
 
@@ -123,17 +124,17 @@ void CLQNumSlider::SetVaule(float value) {
     Invalidate();
 }
 
-int CLQNumSlider::IsBound(float value) const {
+int CLQNumSlider::IsBound(float value) {
     if (value < m_fMinimum)
         return kBelowBounds;
     return value > m_fMaximum ? kAboveBounds : kWithinBounds;
 }
 
-int CLQNumSlider::GetIntNum(float value) const {
+int CLQNumSlider::GetIntNum(float value) {
     return korvane::IntegerPart(value);
 }
 
-int CLQNumSlider::GetDocNum(float value) const {
+int CLQNumSlider::GetDocNum(float value) {
     return korvane::HundredthsPart(value);
 }
 
@@ -194,7 +195,7 @@ void CLQNumSlider::MoveStop() {
     Invalidate();
 }
 
-bool CLQNumSlider::IsMove() const {
+bool CLQNumSlider::IsMove() {
     return m_bMoving;
 }
 
@@ -207,7 +208,9 @@ void CLQNumSlider::OnTime(void*, int) {
         m_nIntegerOffset += m_nTickStep;
     }
 
-    if (std::abs(m_bDecimal ? m_nDecimalOffset : m_nIntegerOffset) == wheel::kStepPixels) {
+    // Whole ticks reach the end of a step exactly; beyond it lies only a column that was left in mid-step
+    // when the decimals were switched.
+    if (std::abs(m_bDecimal ? m_nDecimalOffset : m_nIntegerOffset) >= wheel::kStepPixels) {
         StepValue();
         if (!FireEvent(korvane::kEventValueChanged, &m_fValue))
             return;

@@ -51,10 +51,10 @@ class KORVANEEX_API CLQNumSlider : public CLQBaseCtrl {
     void SetVaule(float value);
 
     /// 1 for a value below the bounds, 2 for one above them, else 0.
-    int IsBound(float value) const;
+    int IsBound(float value);
     /// Integer part and hundredths of a value, which gets a guard of 0.002 against rounding first.
-    int GetIntNum(float value) const;
-    int GetDocNum(float value) const;
+    int GetIntNum(float value);
+    int GetDocNum(float value);
 
     /// Loads the two images, of fixed names, that fade the top and the bottom row. `Create` does it by
     /// itself.
@@ -75,7 +75,7 @@ class KORVANEEX_API CLQNumSlider : public CLQBaseCtrl {
     void StartMove();
     /// Stops the wheel where it is, also in the middle of a step, which then does not count.
     void MoveStop();
-    bool IsMove() const;
+    bool IsMove();
 
     /// True where the wheel takes touches: as wide as "111.11" and as high as three rows of its font,
     /// whatever the size of the control.

@@ -17,7 +17,7 @@ namespace {
 constexpr unsigned kStartTick = 1000;
 
 png::Picture ScreenPicture() {
-    const CLQSurface* screen = CLQScreen::GetInstance()->GetScreenSurfHandle().GetSurface();
+    CLQSurface* screen = CLQScreen::GetInstance()->GetScreenSurfHandle().GetSurface();
     png::Picture picture;
     picture.width = screen->GetWidth();
     picture.height = screen->GetHeight();

@@ -10,19 +10,19 @@ CLQSurfHandle::CLQSurfHandle(const CLQSurfHandle& other) = default;
 CLQSurfHandle& CLQSurfHandle::operator=(const CLQSurfHandle& other) = default;
 CLQSurfHandle::~CLQSurfHandle() = default;
 
-int CLQSurfHandle::GetWidth() const {
+int CLQSurfHandle::GetWidth() {
     return m_pSurface ? m_pSurface->GetWidth() : 0;
 }
 
-int CLQSurfHandle::GetHeight() const {
+int CLQSurfHandle::GetHeight() {
     return m_pSurface ? m_pSurface->GetHeight() : 0;
 }
 
-_eSurfaceType CLQSurfHandle::GetSurfType() const {
+_eSurfaceType CLQSurfHandle::GetSurfType() {
     return m_pSurface ? m_pSurface->GetSurfType() : eSurface_None;
 }
 
-CLQSurface* CLQSurfHandle::GetSurface() const {
+CLQSurface* CLQSurfHandle::GetSurface() {
     return m_pSurface.get();
 }
 
@@ -30,7 +30,7 @@ void CLQSurfHandle::Release() {
     m_pSurface.reset();
 }
 
-int CLQSurfHandle::CalcStoreMemSize() const {
+int CLQSurfHandle::CalcStoreMemSize() {
     const std::size_t size = m_pSurface ? m_pSurface->State().pixels.Size() : 0;
     return size == 0 ? 0 : static_cast<int>(korvane::kLqiHeaderSize + size);
 }

@@ -21,11 +21,11 @@ CLQSurface::CLQSurface() : m_pState(std::make_unique<korvane::SurfaceState>()) {
 
 CLQSurface::~CLQSurface() = default;
 
-int CLQSurface::GetWidth() const {
+int CLQSurface::GetWidth() {
     return m_pState->width;
 }
 
-int CLQSurface::GetHeight() const {
+int CLQSurface::GetHeight() {
     return m_pState->height;
 }
 

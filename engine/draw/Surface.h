@@ -25,8 +25,8 @@ class KORVANE_API CLQSurface {
     CLQSurface(const CLQSurface&) = delete;
     CLQSurface& operator=(const CLQSurface&) = delete;
 
-    int GetWidth() const;
-    int GetHeight() const;
+    int GetWidth();
+    int GetHeight();
     _eSurfaceType GetSurfType() const;
 
     /// Replaces size, type and pixels by what `SaveSurface` wrote into the buffer (or by any other ".lqi"
@@ -72,11 +72,11 @@ class KORVANE_API CLQSurfHandle {
     CLQSurfHandle& operator=(const CLQSurfHandle& other);
     ~CLQSurfHandle();
 
-    int GetWidth() const;
-    int GetHeight() const;
-    _eSurfaceType GetSurfType() const;
+    int GetWidth();
+    int GetHeight();
+    _eSurfaceType GetSurfType();
     /// The surface, null for an empty handle. Owned by its handles.
-    CLQSurface* GetSurface() const;
+    CLQSurface* GetSurface();
     /// Gives up the surface, whose memory returns with its last handle, and leaves this handle empty.
     void Release();
 
@@ -110,7 +110,7 @@ class KORVANE_API CLQSurfHandle {
                    _LQRect* clip, int width);
 
     /// Bytes that `SaveSurface` writes: depends on size and type alone. 0 for an empty handle.
-    int CalcStoreMemSize() const;
+    int CalcStoreMemSize();
     /// Writes the surface as a raw ".lqi" into the caller's buffer of `CalcStoreMemSize` bytes.
     /// The buffer is written to; that its type says const is a quirk of the frozen signature.
     _eErrorInfo SaveSurface(const unsigned char* buffer, int size);

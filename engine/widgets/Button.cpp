@@ -61,7 +61,7 @@ bool CLQButton::AddGUIElement(CLQGUIElement* element) {
     return true;
 }
 
-CLQGUIElement* CLQButton::GetGUIElement(int index) const {
+CLQGUIElement* CLQButton::GetGUIElement(int index) {
     return index >= 0 && index < GetGUIElementCount() ? m_elements[index].get() : nullptr;
 }
 
@@ -129,7 +129,7 @@ bool CLQButton::DoMessage(_LQMessage* msg) {
     }
 }
 
-_eImageType CLQButton::Look() const {
+_eImageType CLQButton::Look() {
     if (!m_bEnabled)
         return eImage_Disabled;
     if (m_nPress == 1)
@@ -173,7 +173,7 @@ void CLQButton::ExchangeLayout(korvane::LayoutArchive& archive) {
     const int count = archive.IsLoading() ? limit : GetGUIElementCount();
     for (int i = 0; i < count; ++i) {
         archive.SetPrefix(L"element" + std::to_wstring(i) + L".");
-        const CLQGUIElement* element = GetGUIElement(i);
+        CLQGUIElement* element = GetGUIElement(i);
         const bool isText = element && element->GetGUIElementType() == eGUIElement_Text;
         archive.Text(L"type", isText ? kText : kImage,
                      [this, i](const std::wstring& type) { PlaceElement(i, type == kText); });

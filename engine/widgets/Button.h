@@ -43,7 +43,7 @@ class KORVANE_API CLQButton : public CLQBaseCtrl {
     bool AddGUIElement(CLQGUIElement* element);
     /// Elements in drawing order; null outside 0 to count - 1. Element 0 is the picture that a new button
     /// has.
-    CLQGUIElement* GetGUIElement(int index) const;
+    CLQGUIElement* GetGUIElement(int index);
     int GetGUIElementCount() const;
 
     /// The text of the caption, which is the first text element; it is added when there is none.
@@ -57,7 +57,7 @@ class KORVANE_API CLQButton : public CLQBaseCtrl {
     void PlaceElement(int index, bool isText);
     CLQTextElement* FindCaption() const;
     CLQTextElement* Caption();
-    _eImageType Look() const;
+    _eImageType Look();
 
     std::vector<std::unique_ptr<CLQGUIElement>> m_elements;
 };

@@ -94,7 +94,7 @@ void CLQSliderCtrl::SetVertical(bool vertical) {
 }
 
 int CLQSliderCtrl::ThumbLength() {
-    const CLQSurfHandle& thumb = m_imageThumb.Surface();
+    CLQSurfHandle& thumb = m_imageThumb.Surface();
     return m_bVertical ? thumb.GetHeight() : thumb.GetWidth();
 }
 

@@ -139,7 +139,7 @@ void CLQStatic::RestartScroll() {
     Invalidate();
 }
 
-bool CLQStatic::IsScrollWanted(int textWidth) const {
+bool CLQStatic::IsScrollWanted(int textWidth) {
     return m_pOwnerWnd && m_nHeight > 0 && m_scroll.IsWanted(textWidth, m_nWidth) && IsOwnerShow();
 }
 

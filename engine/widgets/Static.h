@@ -73,7 +73,7 @@ class KORVANE_API CLQStatic : public CLQBaseCtrl {
     void OnTimerScroll(void*, int);
     void RestartScroll();
     void KeepScrolling(int textWidth);
-    bool IsScrollWanted(int textWidth) const;
+    bool IsScrollWanted(int textWidth);
 
     korvane::TextLine m_line;
     korvane::TextScroll m_scroll;

@@ -18,16 +18,16 @@ void Background::EnableColor(bool enable, const _LQColor* color) {
         color_ = *color;
 }
 
-bool Background::IsVisible() const {
+bool Background::IsVisible() {
     return fills_ || image_.GetSurface();
 }
 
-bool Background::IsOpaqueIn(const _LQRect& place, const _LQRect& rect) const {
+bool Background::IsOpaqueIn(const _LQRect& place, const _LQRect& rect) {
     if (!Covers(place, rect))
         return false;
     if (fills_ && color_.a == 255)
         return true;
-    const CLQSurface* picture = image_.GetSurface();
+    CLQSurface* picture = image_.GetSurface();
     return picture && picture->IsOpaque() &&
            Covers(RectOfSize(place.left, place.top, picture->GetWidth(), picture->GetHeight()), rect);
 }

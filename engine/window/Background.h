@@ -15,9 +15,9 @@ class Background {
     /// A null colour keeps the last one.
     void EnableColor(bool enable, const _LQColor* color);
 
-    bool IsVisible() const;
+    bool IsVisible();
     /// True when it hides everything below `rect`, of an owner at `place`.
-    bool IsOpaqueIn(const _LQRect& place, const _LQRect& rect) const;
+    bool IsOpaqueIn(const _LQRect& place, const _LQRect& rect);
     void Draw(CLQSurfHandle& target, const _LQRect& place);
 
     const std::wstring& File() const { return file_; }

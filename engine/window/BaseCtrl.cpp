@@ -221,7 +221,7 @@ void CLQBaseCtrl::StoreCallBack(int event, const _LQCallBack& record) {
         stored.targetLife = stored.target->WatchLife();
 }
 
-void CLQBaseCtrl::GetScreenXY(int& x, int& y) const {
+void CLQBaseCtrl::GetScreenXY(int& x, int& y) {
     x = m_nX;
     y = m_nY;
     if (m_pOwnerWnd) {
@@ -233,7 +233,7 @@ void CLQBaseCtrl::GetScreenXY(int& x, int& y) const {
     }
 }
 
-_LQRect CLQBaseCtrl::GetScreenRect() const {
+_LQRect CLQBaseCtrl::GetScreenRect() {
     int x;
     int y;
     GetScreenXY(x, y);
@@ -244,13 +244,12 @@ void CLQBaseCtrl::DropPress() {
     m_nPress = 0;
 }
 
-bool CLQBaseCtrl::IsNeedRedraw() const {
+bool CLQBaseCtrl::IsNeedRedraw() {
     return m_bNeedRedraw;
 }
 
-bool CLQBaseCtrl::IsOwnerShow() const {
-    // Asked through the virtual `IsShow`, which the contract declares without const.
-    if (!const_cast<CLQBaseCtrl*>(this)->IsShow())
+bool CLQBaseCtrl::IsOwnerShow() {
+    if (!IsShow())
         return false;
     if (m_pOwnerGroup)
         return m_pOwnerGroup->IsOwnerShow();

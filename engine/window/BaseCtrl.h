@@ -85,13 +85,13 @@ class KORVANE_API CLQBaseCtrl : public CLQWnd {
     void AddCallBack(int event, Target* target, void (Target::*handler)(Sender*, Data));
 
     /// Absolute screen position of the top-left corner.
-    void GetScreenXY(int& x, int& y) const;
+    void GetScreenXY(int& x, int& y);
     /// The control's rectangle on the screen. When a window repaints, nothing that a control draws outside it
     /// shows; a control that is drawn by itself, with `Draw` or `DrawBaseCtrl`, is not cut.
-    _LQRect GetScreenRect() const;
-    bool IsNeedRedraw() const;
+    _LQRect GetScreenRect();
+    bool IsNeedRedraw();
     /// True when the control and all its owners are shown.
-    bool IsOwnerShow() const;
+    bool IsOwnerShow();
     bool IsPressed() const { return m_nPress == 1; }
     /// Ends a press without a release, as for a control that no longer takes input.
     void DropPress();

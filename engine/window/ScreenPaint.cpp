@@ -6,7 +6,7 @@
 
 namespace {
 
-_LQRect SurfaceRect(const CLQSurfHandle& surface) {
+_LQRect SurfaceRect(CLQSurfHandle& surface) {
     return korvane::RectOfSize(0, 0, surface.GetWidth(), surface.GetHeight());
 }
 

@@ -27,12 +27,12 @@ struct Point {
     long long y;
 };
 
-Point Center(const CLQBaseCtrl& ctrl) {
+Point Center(CLQBaseCtrl& ctrl) {
     const _LQRect rect = ctrl.GetScreenRect();
     return {rect.left + (rect.right - rect.left) / 2, rect.top + (rect.bottom - rect.top) / 2};
 }
 
-_LQMessage AtCenter(const CLQBaseCtrl& ctrl, unsigned int code) {
+_LQMessage AtCenter(CLQBaseCtrl& ctrl, unsigned int code) {
     const Point center = Center(ctrl);
     _LQMessage msg;
     msg.code = code;

@@ -174,17 +174,17 @@ bool CLQWnd::DoCommand(_LQMessage*) {
 
 void CLQWnd::ChangeLanguage() {}
 
-void CLQWnd::GetPos(int& x, int& y) const {
+void CLQWnd::GetPos(int& x, int& y) {
     x = m_nX;
     y = m_nY;
 }
 
-void CLQWnd::GetSize(int& width, int& height) const {
+void CLQWnd::GetSize(int& width, int& height) {
     width = m_nWidth;
     height = m_nHeight;
 }
 
-bool CLQWnd::IsFocus() const {
+bool CLQWnd::IsFocus() {
     return m_bFocus;
 }
 

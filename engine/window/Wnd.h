@@ -69,9 +69,9 @@ class KORVANE_API CLQWnd {
     virtual bool DoCommand(_LQMessage* msg);
     virtual void ChangeLanguage();
 
-    void GetPos(int& x, int& y) const;
-    void GetSize(int& width, int& height) const;
-    bool IsFocus() const;
+    void GetPos(int& x, int& y);
+    void GetSize(int& width, int& height);
+    bool IsFocus();
     bool IsFocusEnabled() const;
     bool IsRecvMsgEnabled() const;
     bool IsWindowEnabled() const;

@@ -17,7 +17,7 @@ class CountingTree : public CLQButtonTree {
     int cleared = 0;
 };
 
-std::vector<unsigned char> Stored(const CLQSurfHandle& surface) {
+std::vector<unsigned char> Stored(CLQSurfHandle surface) {
     std::vector<unsigned char> bytes(static_cast<std::size_t>(surface.CalcStoreMemSize()));
     CLQSurfHandle copy = surface;
     EXPECT_EQ(copy.SaveSurface(bytes.data(), static_cast<int>(bytes.size())), eError_None);
@@ -89,10 +89,10 @@ TEST(ButtonTree, DrawsOnAnEmptyHandle) {
 TEST(ButtonTree, CopiesItsPlaceAndKind) {
     CLQButtonTree tree;
     ASSERT_TRUE(tree.Create(3, 4, 50, 60));
-    const CLQButtonTree copy(tree);
+    CLQButtonTree copy(tree);
     CLQButtonTree assigned;
     assigned = tree;
-    for (const CLQButtonTree* other : {&copy, static_cast<const CLQButtonTree*>(&assigned)}) {
+    for (CLQButtonTree* other : {&copy, &assigned}) {
         int x = 0, y = 0, width = 0, height = 0;
         other->GetPos(x, y);
         other->GetSize(width, height);

@@ -268,7 +268,7 @@ struct Ink {
     int right = -1;
 };
 
-Ink InkBetween(const CLQSurfHandle& canvas, int top, int bottom) {
+Ink InkBetween(CLQSurfHandle canvas, int top, int bottom) {
     const auto pixels = PixelsOf(canvas);
     Ink ink;
     for (int x = 0; x < canvas.GetWidth(); ++x) {
@@ -430,7 +430,7 @@ TEST_F(NumSliderDraw, CopiesLookLikeTheirOriginalAlsoAfterItsEnd) {
 
 TEST_F(NumSliderDraw, CopyKeepsItsLabelWhenTheOriginalGetsAnother) {
     wheel.Prepare(FmBounds(), 98.0f);
-    const TestWheel before(wheel);
+    TestWheel before(wheel);
     CLQSurfHandle expected = NewSurface(kScreenWidth, kScreenHeight);
     wheel.Draw(expected);
     TestWheel copy(before);

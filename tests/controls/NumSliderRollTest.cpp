@@ -38,7 +38,7 @@ void Roll(TestWheel& wheel, bool down) {
     wheel.StartMove();
 }
 
-int Hundredths(const TestWheel& wheel) {
+int Hundredths(TestWheel& wheel) {
     return wheel.IntegerPart() * 100 + wheel.DecimalPart();
 }
 

@@ -39,7 +39,7 @@ TEST(NumSliderValue, CreateGivesTheResultOfTheBase) {
 }
 
 TEST(NumSliderValue, SplitsEveryStepOfTheFmBand) {
-    const TestWheel wheel;
+    TestWheel wheel;
     for (int hundredths = 8750; hundredths <= 10800; hundredths += 5) {
         const float value = static_cast<float>(hundredths) / 100.0f;
         EXPECT_EQ(wheel.GetIntNum(value), hundredths / 100) << value;
@@ -48,7 +48,7 @@ TEST(NumSliderValue, SplitsEveryStepOfTheFmBand) {
 }
 
 TEST(NumSliderValue, SplitsEveryStepOfTheAmBand) {
-    const TestWheel wheel;
+    TestWheel wheel;
     for (int value = 531; value <= 1602; value += 9) {
         EXPECT_EQ(wheel.GetIntNum(static_cast<float>(value)), value);
         EXPECT_EQ(wheel.GetDocNum(static_cast<float>(value)), 0);
@@ -56,7 +56,7 @@ TEST(NumSliderValue, SplitsEveryStepOfTheAmBand) {
 }
 
 TEST(NumSliderValue, GuardsTheSplitAgainstValuesJustBelowAHundredth) {
-    const TestWheel wheel;
+    TestWheel wheel;
     EXPECT_EQ(wheel.GetIntNum(87.4999f), 87);
     EXPECT_EQ(wheel.GetDocNum(87.4999f), 50);
     EXPECT_EQ(wheel.GetIntNum(87.999f), 88);
@@ -65,7 +65,7 @@ TEST(NumSliderValue, GuardsTheSplitAgainstValuesJustBelowAHundredth) {
 }
 
 TEST(NumSliderValue, FormsTheHundredthsInSinglePrecision) {
-    const TestWheel wheel;
+    TestWheel wheel;
     // A product in double precision lies just below the hundredth that the one in single precision rounds to.
     EXPECT_EQ(wheel.GetDocNum(0x1.5c126ep+6f), 2);
     EXPECT_EQ(wheel.GetDocNum(0x1.5c1cacp+6f), 3);
@@ -75,7 +75,7 @@ TEST(NumSliderValue, FormsTheHundredthsInSinglePrecision) {
 }
 
 TEST(NumSliderValue, SplitsANegativeValueTowardZero) {
-    const TestWheel wheel;
+    TestWheel wheel;
     EXPECT_EQ(wheel.GetIntNum(-1.5f), -1);
     EXPECT_EQ(wheel.GetDocNum(-1.5f), -49) << "the guard is added, whatever the sign";
     EXPECT_EQ(wheel.GetIntNum(-0.5f), 0);
@@ -83,7 +83,7 @@ TEST(NumSliderValue, SplitsANegativeValueTowardZero) {
 }
 
 TEST(NumSliderValue, SplitsWhatFitsNoIntAtTheEndsOfItsRange) {
-    const TestWheel wheel;
+    TestWheel wheel;
     EXPECT_EQ(wheel.GetIntNum(3.0e9f), std::numeric_limits<int>::max() / 100);
     EXPECT_EQ(wheel.GetIntNum(kInfinity), std::numeric_limits<int>::max() / 100);
     EXPECT_EQ(wheel.GetIntNum(-kInfinity), std::numeric_limits<int>::min() / 100);

@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-png::Picture PictureOf(const CLQSurfHandle& surface) {
+png::Picture PictureOf(CLQSurfHandle surface) {
     png::Picture picture;
     picture.width = surface.GetWidth();
     picture.height = surface.GetHeight();
@@ -47,7 +47,7 @@ Difference Compare(const png::Picture& actual, const png::Picture& expected) {
 
 }  // namespace
 
-::testing::AssertionResult MatchesReference(const CLQSurfHandle& surface, const std::string& name) {
+::testing::AssertionResult MatchesReference(CLQSurfHandle surface, const std::string& name) {
     const fs::path reference = fs::path(KORVANE_TEST_REFERENCE_DIR) / (name + ".png");
     const png::Picture actual = PictureOf(surface);
     png::Picture expected;

@@ -13,6 +13,6 @@ namespace korvane::test {
 ///
 /// With the environment variable KORVANE_ACCEPT_REFERENCES set, differing and missing references are written
 /// anew: look at each of them before it is committed.
-::testing::AssertionResult MatchesReference(const CLQSurfHandle& surface, const std::string& name);
+::testing::AssertionResult MatchesReference(CLQSurfHandle surface, const std::string& name);
 
 }  // namespace korvane::test

@@ -100,7 +100,7 @@ fs::path Scene::ImageFolder() const {
 }
 
 std::uint32_t Scene::PixelAt(int x, int y) const {
-    const CLQSurface* surface = CLQScreen::GetInstance()->GetScreenSurfHandle().GetSurface();
+    CLQSurface* surface = CLQScreen::GetInstance()->GetScreenSurfHandle().GetSurface();
     const auto* row = static_cast<const unsigned char*>(surface->GetPixels()) +
                       static_cast<std::ptrdiff_t>(y) * surface->GetPitch();
     std::uint32_t pixel;
@@ -126,8 +126,8 @@ void Scene::FillWithGarbage() {
     surface->Touch();
 }
 
-std::vector<std::uint32_t> PixelsOf(const CLQSurfHandle& handle) {
-    const CLQSurface* surface = handle.GetSurface();
+std::vector<std::uint32_t> PixelsOf(CLQSurfHandle handle) {
+    CLQSurface* surface = handle.GetSurface();
     if (!surface)
         return {};
     std::vector<std::uint32_t> pixels;

@@ -46,7 +46,7 @@ class Scene {
 };
 
 /// All pixels of a 32-bit surface, row by row.
-std::vector<std::uint32_t> PixelsOf(const CLQSurfHandle& surface);
+std::vector<std::uint32_t> PixelsOf(CLQSurfHandle surface);
 
 /// Writes a surface as an image file on the host.
 void WriteImage(const std::filesystem::path& file, CLQSurfHandle& surface);

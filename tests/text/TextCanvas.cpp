@@ -26,7 +26,7 @@ std::vector<std::uint32_t> TextCanvas::Pixels() const {
     return test::PixelsOf(surface_);
 }
 
-Ink TextCanvas::FindInk() const {
+Ink TextCanvas::FindInk() {
     const std::vector<std::uint32_t> pixels = Pixels();
     const int width = surface_.GetWidth();
     Ink ink{width, 0, surface_.GetHeight(), 0};

@@ -31,7 +31,7 @@ class TextCanvas {
 
     /// Of a 32-bit canvas.
     std::vector<std::uint32_t> Pixels() const;
-    Ink FindInk() const;
+    Ink FindInk();
 
   private:
     CLQSurfHandle surface_;

@@ -22,12 +22,12 @@ class Element : public WidgetsTest {
     CLQSurfHandle target = Plain(200, 100, kBlack);
 };
 
-std::uint32_t At(const CLQSurfHandle& surface, int x, int y) {
+std::uint32_t At(CLQSurfHandle surface, int x, int y) {
     return PixelsOf(surface)[static_cast<std::size_t>(y) * surface.GetWidth() + x];
 }
 
 /// Smallest rectangle around everything that is not black; right and bottom lie outside.
-_LQRect Ink(const CLQSurfHandle& surface) {
+_LQRect Ink(CLQSurfHandle surface) {
     const std::vector<std::uint32_t> pixels = PixelsOf(surface);
     const int width = surface.GetWidth();
     _LQRect ink = {width, 0, surface.GetHeight(), 0};

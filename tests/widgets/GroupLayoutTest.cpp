@@ -39,7 +39,7 @@ class GroupLayout : public WidgetsTest {
         return outer;
     }
 
-    static _LQRect PlaceOf(const CLQBaseCtrl* ctrl) {
+    static _LQRect PlaceOf(CLQBaseCtrl* ctrl) {
         _LQRect place = {0, 0, 0, 0};
         if (ctrl) {
             ctrl->GetPos(place.left, place.top);

@@ -40,7 +40,7 @@ CLQBaseCtrl* CLQGUIElement::GetFatherCtrl() const {
     return m_fatherLife.IsAlive() ? m_pFatherCtrl : nullptr;
 }
 
-_eGUIElementType CLQGUIElement::GetGUIElementType() const {
+_eGUIElementType CLQGUIElement::GetGUIElementType() {
     return m_eType;
 }
 
@@ -52,9 +52,9 @@ void CLQGUIElement::SetRect(int x, int y, int width, int height) {
     Invalidate();
 }
 
-_LQRect CLQGUIElement::ScreenRect() const {
+_LQRect CLQGUIElement::ScreenRect() {
     _LQRect rect;
-    const CLQBaseCtrl* father = GetFatherCtrl();
+    CLQBaseCtrl* father = GetFatherCtrl();
     if (father)
         father->GetScreenXY(rect.left, rect.top);
     int width = m_nWidth;

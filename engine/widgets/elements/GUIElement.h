@@ -28,7 +28,7 @@ class KORVANE_API CLQGUIElement {
     void SetFatherCtrl(CLQBaseCtrl* ctrl);
     /// Null without a father and after the father's end.
     CLQBaseCtrl* GetFatherCtrl() const;
-    _eGUIElementType GetGUIElementType() const;
+    _eGUIElementType GetGUIElementType();
 
     /// The element's rectangle, relative to the father's top-left corner. A width or height below 1 stands
     /// for the father's whole rectangle, which is also the rectangle of a new element.
@@ -41,7 +41,7 @@ class KORVANE_API CLQGUIElement {
     CLQGUIElement& operator=(const CLQGUIElement& other) = delete;
 
     /// The rectangle in screen coordinates; empty when neither the element nor a father gives one.
-    _LQRect ScreenRect() const;
+    _LQRect ScreenRect();
     /// Has the father repainted.
     void Invalidate();
 

@@ -41,7 +41,7 @@ void CLQTextElement::SetLangID(int id) {
     ChangeLanguage();
 }
 
-int CLQTextElement::GetLangID() const {
+int CLQTextElement::GetLangID() {
     return m_nLangID;
 }
 

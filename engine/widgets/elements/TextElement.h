@@ -26,7 +26,7 @@ class KORVANE_API CLQTextElement : public CLQGUIElement {
     /// Takes the text from the language table, at once and whenever the language changes. 0 leaves the text
     /// as it is.
     void SetLangID(int id);
-    int GetLangID() const;
+    int GetLangID();
 
     /// Borrowed from the font manager; null is the default font.
     void SetFont(CLQFont* font);
