@@ -5,7 +5,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <spawn.h>
 #include <string>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <vector>
 
 namespace fs = std::filesystem;
@@ -23,17 +26,33 @@ std::string Quoted(const fs::path& path) {
     return "'" + path.string() + "'";
 }
 
+/// Runs the program without a shell, whose own start would count.
 bool RunWheel(Start& start) {
-    const auto now = std::chrono::steady_clock::now().time_since_epoch();
-    const auto nanoseconds = std::chrono::duration_cast<std::chrono::nanoseconds>(now).count();
-    const std::string command =
-        "exec " + Quoted(fs::path(KORVANE_BENCH_PROGRAM_DIR) / "wheel") + " " + std::to_string(nanoseconds);
-    FILE* output = popen(command.c_str(), "r");
-    if (!output)
+    const std::string program = (fs::path(KORVANE_BENCH_PROGRAM_DIR) / "wheel").string();
+    int ends[2];
+    if (pipe(ends) != 0)
         return false;
-    const int fields =
-        std::fscanf(output, "first_frame_ms %lf resident_kb %ld", &start.firstFrameMs, &start.residentKb);
-    return pclose(output) == 0 && fields == 2;
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, ends[1], STDOUT_FILENO);
+    posix_spawn_file_actions_addclose(&actions, ends[0]);
+
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    std::string argument = std::to_string(std::chrono::duration_cast<std::chrono::nanoseconds>(now).count());
+    std::string name = "wheel";
+    char* arguments[] = {name.data(), argument.data(), nullptr};
+    pid_t child = 0;
+    const bool started = posix_spawn(&child, program.c_str(), &actions, nullptr, arguments, environ) == 0;
+    posix_spawn_file_actions_destroy(&actions);
+    close(ends[1]);
+    FILE* const output = fdopen(ends[0], "r");
+    const int fields = output ? std::fscanf(output, "first_frame_ms %lf resident_kb %ld", &start.firstFrameMs,
+                                            &start.residentKb)
+                              : 0;
+    if (output)
+        std::fclose(output);
+    int status = 1;
+    return started && waitpid(child, &status, 0) == child && status == 0 && fields == 2;
 }
 
 /// Size without symbols, in bytes; 0 when it cannot be found out.

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "bench/engine/Register.h"
+
 namespace korvane::bench {
 
 namespace {
@@ -26,8 +28,6 @@ void RatioTable::ReportRuns(const std::vector<Run>& runs) {
             continue;
         const std::string work = name.substr(0, bar);
         const std::string party = name.substr(bar + 1);
-        if (std::find(works_.begin(), works_.end(), work) == works_.end())
-            works_.push_back(work);
         const double time = run.real_accumulated_time / static_cast<double>(run.iterations) * 1e6;
         double& least = microseconds_[work].emplace(party, time).first->second;
         least = std::min(least, time);
@@ -39,7 +39,7 @@ void RatioTable::Finalize() {
     for (const char* peer : kPeers)
         std::printf("  x %-7s", peer);
     std::printf("\n");
-    for (const std::string& work : works_) {
+    for (const std::string& work : RegisteredWorks()) {
         const std::map<std::string, double>& times = microseconds_[work];
         const auto ours = times.find("ours");
         if (ours == times.end())

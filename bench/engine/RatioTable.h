@@ -17,7 +17,6 @@ class RatioTable : public benchmark::BenchmarkReporter {
     void Finalize() override;
 
   private:
-    std::vector<std::string> works_;
     std::map<std::string, std::map<std::string, double>> microseconds_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <vector>
 
 #include "engine/draw/kernels/Kernels.h"
 
@@ -22,7 +23,10 @@ struct KernelTable {
     void (*rotateOver)(Pixel*, std::ptrdiff_t, const Box&, const Rotation&, const InverseMap&);
 };
 
-/// Picks the table of the best target that is allowed.
-void ChooseTable();
+/// The targets for which the kernels were built, best first. Each is one bit.
+std::vector<std::int64_t> BuiltTargets();
+
+/// Makes the kernels run on a built target that the machine has.
+void UseTarget(std::int64_t target);
 
 }  // namespace korvane::kernels

@@ -30,16 +30,29 @@ HWY_AFTER_NAMESPACE();
 #include <algorithm>
 #include <cstring>
 
+#include "engine/draw/kernels/Targets.h"
+
 namespace korvane::kernels {
 namespace {
 
-HWY_EXPORT(Table);
+struct BuiltTarget {
+    std::int64_t target;
+    const KernelTable* (*table)();
+};
+
+/// Every target that was built, best first. The last one is what the compiler may use anywhere.
+constexpr BuiltTarget kBuiltTargets[] = {
+    {HWY_AVX2, HWY_CHOOSE_AVX2(Table)},
+    {HWY_SSE4, HWY_CHOOSE_SSE4(Table)},
+    {HWY_NEON, HWY_CHOOSE_NEON(Table)},
+    {HWY_STATIC_TARGET, &HWY_STATIC_DISPATCH(Table)},
+};
 
 const KernelTable* activeTable = nullptr;
 
 const KernelTable& Active() {
     if (activeTable == nullptr) {
-        ChooseTable();
+        UseTarget(AvailableTargets().front());
     }
     return *activeTable;
 }
@@ -55,8 +68,24 @@ Pixel Premultiplied(Pixel color) {
 
 }  // namespace
 
-void ChooseTable() {
-    activeTable = HWY_DYNAMIC_DISPATCH(Table)();
+std::vector<std::int64_t> BuiltTargets() {
+    std::vector<std::int64_t> targets;
+    for (const BuiltTarget& built : kBuiltTargets) {
+        const bool listed = std::find(targets.begin(), targets.end(), built.target) != targets.end();
+        if (built.table != nullptr && !listed) {
+            targets.push_back(built.target);
+        }
+    }
+    return targets;
+}
+
+void UseTarget(std::int64_t target) {
+    for (const BuiltTarget& built : kBuiltTargets) {
+        if (built.target == target && built.table != nullptr) {
+            activeTable = built.table();
+            return;
+        }
+    }
 }
 
 void CopyBlock(Pixel* target, std::ptrdiff_t targetStride, const Pixel* source, std::ptrdiff_t sourceStride,
