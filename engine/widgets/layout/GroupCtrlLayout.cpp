@@ -25,10 +25,12 @@ int HeightOf(const CLQGroupCtrl& group) {
 
 void CLQGroupCtrl::ExchangeLayout(korvane::LayoutArchive& archive) {
     CLQBaseCtrl::ExchangeLayout(archive);
-    archive.Text(L"background", m_background.File(), [this](const std::wstring& file) { SetBkgSurf(file.c_str()); });
+    archive.Text(L"background", m_background.File(),
+                 [this](const std::wstring& file) { SetBkgSurf(file.c_str()); });
     archive.Color(L"backgroundcolor", m_background.Color(),
                   [this](_LQColor color) { EnableBkgColor(m_background.IsColorEnabled(), &color); });
-    archive.Flag(L"fillbackground", m_background.IsColorEnabled(), [this](bool enable) { EnableBkgColor(enable, nullptr); });
+    archive.Flag(L"fillbackground", m_background.IsColorEnabled(),
+                 [this](bool enable) { EnableBkgColor(enable, nullptr); });
 }
 
 /// A class derived from the group may be loaded from the layout of a plain one.
