@@ -3,7 +3,7 @@
 #include "engine/draw/SurfManager.h"
 
 #include "tests/controls/TestWheel.h"
-#include "tests/platform/AllocationCount.h"
+#include "tests/support/AllocationCount.h"
 #include "tests/support/Scene.h"
 
 namespace {
@@ -31,9 +31,9 @@ TEST(NumSliderRepaint, AllocatesNothingInSteadyState) {
         };
         rollOnce();
         rollOnce();
-        const int before = korvane::AllocationCount();
+        const int before = korvane::test::AllocationCount();
         rollOnce();
-        EXPECT_EQ(korvane::AllocationCount(), before);
+        EXPECT_EQ(korvane::test::AllocationCount(), before);
     }
 }
 

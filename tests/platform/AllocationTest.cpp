@@ -1,14 +1,12 @@
-#include <atomic>
-#include <cstdlib>
 #include <gtest/gtest.h>
-#include <new>
+#include <memory>
 #include <vector>
 
 #include "platform/Display.h"
 #include "platform/coredll.h"
 
-#include "tests/platform/AllocationCount.h"
 #include "tests/platform/StoppedClock.h"
+#include "tests/support/AllocationCount.h"
 
 namespace korvane {
 namespace {
@@ -48,10 +46,10 @@ TEST(MessageLoop, AllocatesNothingOnceItRuns) {
     const std::vector<std::uint32_t> pixels(100 * 80);
     for (int i = 0; i < 10; ++i)
         Step(*display, pixels.data());
-    const int before = AllocationCount();
+    const int before = test::AllocationCount();
     for (int i = 0; i < 1000; ++i)
         Step(*display, pixels.data());
-    EXPECT_EQ(AllocationCount() - before, 0);
+    EXPECT_EQ(test::AllocationCount() - before, 0);
     EXPECT_GT(before, 0);
     DestroyWindow(window);
 }

@@ -1,29 +1,7 @@
-#include <cstdlib>
 #include <gtest/gtest.h>
-#include <new>
 
+#include "tests/support/AllocationCount.h"
 #include "tests/text/TextCanvas.h"
-
-namespace {
-
-long allocationCount = 0;
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-    ++allocationCount;
-    if (void* memory = std::malloc(size > 0 ? size : 1))
-        return memory;
-    throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
 
 namespace korvane::test {
 namespace {
@@ -43,17 +21,17 @@ TEST(SteadyText, ARepeatedDrawingAllocatesNothing) {
     TextCanvas canvas;
     CLQFont* font = DefaultFont(20);
     DrawScreen(canvas, font);
-    const long before = allocationCount;
+    const int before = AllocationCount();
     for (int i = 0; i < 10; ++i)
         DrawScreen(canvas, font);
-    EXPECT_EQ(allocationCount, before);
+    EXPECT_EQ(AllocationCount(), before);
 }
 
 TEST(SteadyText, NumbersThatChangeAllocateNothingOnceEachDigitWasShown) {
     TextCanvas canvas;
     CLQFont* font = DefaultFont(24);
     canvas.Draw(L"0123456789.:", font, 0, 0);
-    const long before = allocationCount;
+    const int before = AllocationCount();
     wchar_t text[] = L"12:34.0000";
     for (int i = 0; i < 10000; ++i) {
         for (int digit = 9, rest = i; digit > 5; --digit, rest /= 10)
@@ -61,7 +39,7 @@ TEST(SteadyText, NumbersThatChangeAllocateNothingOnceEachDigitWasShown) {
         canvas.Draw(text, font, 300, 0, 1);
         Width(font, text);
     }
-    EXPECT_EQ(allocationCount, before);
+    EXPECT_EQ(AllocationCount(), before);
 }
 
 }  // namespace

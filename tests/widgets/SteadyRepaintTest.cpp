@@ -1,4 +1,4 @@
-#include "tests/platform/AllocationCount.h"
+#include "tests/support/AllocationCount.h"
 #include "tests/widgets/Bench.h"
 
 namespace korvane::test {

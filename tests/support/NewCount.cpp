@@ -1,8 +1,8 @@
-#include "tests/platform/AllocationCount.h"
-
 #include <atomic>
 #include <cstdlib>
 #include <new>
+
+#include "tests/support/AllocationCount.h"
 
 namespace {
 
@@ -10,13 +10,17 @@ std::atomic<int> allocations{0};
 
 }  // namespace
 
-namespace korvane {
+namespace korvane::test {
 
 int AllocationCount() {
     return allocations;
 }
 
-}  // namespace korvane
+bool CountsMalloc() {
+    return false;
+}
+
+}  // namespace korvane::test
 
 // Apart from what they count, so that the compiler does not see that new is malloc.
 

@@ -1,8 +1,0 @@
-#pragma once
-
-namespace korvane {
-
-/// How often the program has called operator new so far.
-int AllocationCount();
-
-}  // namespace korvane
