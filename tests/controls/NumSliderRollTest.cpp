@@ -1,8 +1,10 @@
 #include <cmath>
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <memory>
 #include <vector>
 
+#include "controls/NumSliderLayout.h"
 #include "engine/window/Window.h"
 #include "platform/Simulation.h"
 
@@ -235,6 +237,37 @@ TEST(NumSliderRoll, ShowsEveryHundredthRightThroughTheWholeFmBand) {
     }
 }
 
+TEST(NumSliderRoll, SkipsTheUpperBoundOfTheFmBandThatItsSumPasses) {
+    TestWheel wheel;
+    wheel.Prepare(FmBounds(), 87.5f);
+    Roll(wheel, kUp);
+    wheel.Tick((10795 - 8750) / 5 * kTicksPerStep);
+    ASSERT_EQ(Hundredths(wheel), 10795);
+    wheel.Tick(kTicksPerStep);
+    EXPECT_EQ(wheel.Value(), 87.5f) << "the sum of single precision lies above 108";
+}
+
+TEST(NumSliderRoll, KeepsToTheGridOfAHandlerThatSetsTheValueAgain) {
+    class Tuner : public CLQWindow {
+      public:
+        void OnValue(CLQNumSlider* sender, float* value) {
+            sender->SetVaule(std::round(*value * 20.0f) / 20.0f);
+        }
+    };
+    TestWheel wheel;
+    Tuner tuner;
+    wheel.Prepare(FmBounds(), 87.5f);
+    wheel.AddCallBack(korvane::kEventValueChanged, &tuner, &Tuner::OnValue);
+    Roll(wheel, kUp);
+    for (int expected = 8755; expected <= 10800; expected += 5) {
+        wheel.Tick(kTicksPerStep);
+        ASSERT_EQ(Hundredths(wheel), expected);
+    }
+    EXPECT_EQ(wheel.Value(), 108.0f);
+    wheel.Tick(kTicksPerStep);
+    EXPECT_EQ(wheel.Value(), 87.5f);
+}
+
 TEST(NumSliderRoll, FiresValueChangedAfterEachStepWithItselfAndItsValue) {
     TestWheel wheel;
     Listener listener;
@@ -400,6 +433,40 @@ TEST_F(NumSliderTimer, RollsAStepEvery200Milliseconds) {
     EXPECT_FALSE(wheel.TimerRuns());
     scene.Advance(2000);
     EXPECT_EQ(Hundredths(wheel), 9855);
+}
+
+TEST_F(NumSliderTimer, GoesOnSteppingWhenTheBandIsSwitchedInMidRoll) {
+    constexpr int kTicks = 400;
+    // A column runs at most three ticks in each band before the step of either settles both.
+    constexpr int kFurthest = 2 * 3 * 19;
+    for (const bool down : {kDown, kUp}) {
+        for (int ticksPerBand = 1; ticksPerBand <= 3 * kTicksPerStep; ++ticksPerBand) {
+            SCOPED_TRACE(testing::Message() << ticksPerBand << " ticks per band, down " << down);
+            TestWheel wheel;
+            Listener listener;
+            wheel.Prepare(AmBounds(), 999.0f);
+            listener.ListenTo(wheel);
+            Roll(wheel, down);
+            bool decimal = false;
+            std::size_t steps = 0;
+            int ticksSinceStep = 0;
+            for (int tick = 1; tick <= kTicks; ++tick) {
+                scene.Advance(korvane::num_slider::kTickPeriodMs);
+                ++ticksSinceStep;
+                if (listener.values.size() > steps) {
+                    steps = listener.values.size();
+                    ticksSinceStep = 0;
+                }
+                ASSERT_LT(ticksSinceStep, 2 * kTicksPerStep) << "tick " << tick;
+                ASSERT_LE(std::abs(wheel.IntegerOffset()), kFurthest) << "tick " << tick;
+                ASSERT_LE(std::abs(wheel.DecimalOffset()), kFurthest) << "tick " << tick;
+                if (tick % ticksPerBand == 0) {
+                    decimal = !decimal;
+                    wheel.SetBoundScalFreqID(decimal ? FmBounds() : AmBounds());
+                }
+            }
+        }
+    }
 }
 
 TEST_F(NumSliderTimer, EndsWithTheWheel) {
