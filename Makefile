@@ -5,7 +5,7 @@ PRESET := release
 JOBS := $(shell nproc)
 
 .DEFAULT_GOAL := help
-.PHONY: help setup configure build run test bench check clean
+.PHONY: help setup configure build run test bench check clean references
 
 help:  ## List the commands
 	@sed -n 's/^\([a-z]*\):.*## /  make \1\t/p' Makefile | expand -t 16
@@ -25,6 +25,10 @@ run: configure  ## Open the head unit, or without a display play its tour into b
 
 test: build  ## Run every test
 	@ctest --preset $(PRESET) --parallel $(JOBS)
+
+references: build  ## Write the reference pictures of the tests anew; look at each before you commit it
+	@KORVANE_ACCEPT_REFERENCES=1 ctest --preset $(PRESET) --parallel $(JOBS) --quiet
+	@git status --short tests/references
 
 bench: configure  ## Measure speed, start, memory and size
 	@cmake --build --preset $(PRESET) --parallel $(JOBS) --target korvane_bench

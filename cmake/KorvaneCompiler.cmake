@@ -22,11 +22,14 @@ add_library(korvane_options INTERFACE)
 target_include_directories(korvane_options INTERFACE "${PROJECT_SOURCE_DIR}")
 target_compile_options(korvane_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
   -Woverloaded-virtual)
+# A fused multiply-add rounds once where the controls' arithmetic is stated to round twice.
+target_compile_options(korvane_options INTERFACE -ffp-contract=off)
 if(KORVANE_WARNINGS_AS_ERRORS)
   target_compile_options(korvane_options INTERFACE -Werror)
 endif()
 if(KORVANE_SANITIZE)
   target_compile_options(korvane_options INTERFACE -fsanitize=${KORVANE_SANITIZE}
     -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_definitions(korvane_options INTERFACE _GLIBCXX_ASSERTIONS)
   target_link_options(korvane_options INTERFACE -fsanitize=${KORVANE_SANITIZE})
 endif()

@@ -1,7 +1,8 @@
 #include "KorvaneEx.h"
 
 int main() {
-    CLQScreen::GetInstance()->Open("sdl", 400, 300, L"One wheel");
+    if (!CLQScreen::GetInstance()->Open("sdl", 400, 300, L"One wheel"))
+        return 1;
     CLQWindow window;
     window.Create(0, 0, 400, 300);
 
