@@ -8,7 +8,7 @@ JOBS := $(shell nproc)
 .PHONY: help setup configure build run test bench check clean references
 
 help:  ## List the commands
-	@sed -n 's/^\([a-z]*\):.*## /  make \1\t/p' Makefile | expand -t 16
+	@sed -n 's/^\([a-z]*\):.*## /  make \1\t/p' Makefile | expand -t 24
 
 setup:  ## Install the Debian packages that are missing
 	@tools/setup/install-packages
