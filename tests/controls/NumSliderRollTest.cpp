@@ -495,34 +495,4 @@ TEST_F(NumSliderTimer, HandlerOfATickMayDeleteTheWheel) {
     EXPECT_EQ(destroyer.wheel, nullptr);
 }
 
-TEST_F(NumSliderTimer, CopiesShareTheClockworkOfTheWheelThatWasCopied) {
-    TestWheel wheel;
-    wheel.Prepare(AmBounds(), 999.0f);
-    TestWheel copy(wheel);
-    Roll(copy, kUp);
-    EXPECT_TRUE(wheel.TimerRuns());
-    scene.Advance(400);
-    EXPECT_EQ(copy.Value(), 999.0f) << "the ticks go to the original";
-    copy.MoveStop();
-    EXPECT_FALSE(wheel.TimerRuns());
-}
-
-TEST_F(NumSliderTimer, CopiesEndInEitherOrder) {
-    for (const bool originalFirst : {true, false}) {
-        auto wheel = std::make_unique<TestWheel>();
-        wheel->Prepare(AmBounds(), 999.0f);
-        auto copy = std::make_unique<TestWheel>(*wheel);
-        auto assigned = std::make_unique<TestWheel>();
-        *assigned = *wheel;
-        *assigned = *assigned;
-        Roll(*wheel, kUp);
-        scene.Advance(60);
-        (originalFirst ? wheel : copy).reset();
-        scene.Advance(1000);
-        (originalFirst ? copy : wheel).reset();
-        scene.Advance(1000);
-        EXPECT_EQ(assigned->Value(), 999.0f);
-    }
-}
-
 }  // namespace

@@ -21,6 +21,7 @@ class TestWheel : public CLQNumSlider {
     int DecimalPart() const { return m_nDecimal; }
     int IntegerOffset() const { return m_nIntegerOffset; }
     int DecimalOffset() const { return m_nDecimalOffset; }
+    int PressY() const { return m_nPressY; }
     bool TimerRuns() { return m_timer.IsActived(); }
 
     /// Sets the wheel up as an application does.
