@@ -1,7 +1,9 @@
+#include <cstdint>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "controls/NumSliderLayout.h"
 
@@ -162,6 +164,44 @@ TEST_F(NumSliderDraw, RollsWholeNumbersToFourDigits) {
     Show(AmBounds(), 999.0f);
     Roll(false);
     ExpectStep("num-slider-am-carry");
+}
+
+TEST_F(NumSliderDraw, StoppedInMidStepLeavesThreeRowsWhereTheyAre) {
+    Show(FmBounds(), 87.95f);
+    Roll(false);
+    scene.Advance(2 * wheel_layout::kTickPeriodMs);
+    wheel.MoveStop();
+    scene.Pump();
+    EXPECT_TRUE(MatchesReference(Screen(), "num-slider-fm-stopped"));
+    ExpectFullRepaintIsTheSame();
+}
+
+TEST_F(NumSliderDraw, StoppedInMidStepLeavesThreeWholeNumbersWhereTheyAre) {
+    Show(AmBounds(), 702.0f);
+    Roll(true);
+    scene.Advance(2 * wheel_layout::kTickPeriodMs);
+    wheel.MoveStop();
+    scene.Pump();
+    EXPECT_TRUE(MatchesReference(Screen(), "num-slider-am-stopped"));
+    ExpectFullRepaintIsTheSame();
+}
+
+TEST_F(NumSliderDraw, ShowsOnlyItsImagesWhileItRollsWithoutAValue) {
+    for (const _FreqStruct_& bounds : {FmBounds(), AmBounds()}) {
+        Show(bounds, bounds.minimum);
+        wheel.SetBoundScalFreqID(bounds);
+        scene.Pump();
+        EXPECT_TRUE(MatchesReference(Screen(), "num-slider-empty"));
+        const auto empty = scene.Pixels();
+        Roll(false);
+        for (int tick = 1; tick < kTicksPerStep; ++tick) {
+            scene.Advance(wheel_layout::kTickPeriodMs);
+            EXPECT_EQ(scene.Pixels(), empty) << "tick " << tick;
+        }
+        scene.Advance(wheel_layout::kTickPeriodMs);
+        EXPECT_NE(scene.Pixels(), empty) << "the step ends at a value";
+        wheel.MoveStop();
+    }
 }
 
 TEST_F(NumSliderDraw, LabelLiesOverTheBackground) {
@@ -382,6 +422,46 @@ TEST_F(NumSliderDraw, AnotherSeekImageReplacesTheFirst) {
     wheel.SetSeekUpGnd(L"ArrowUp.lqi");
     scene.Pump();
     EXPECT_EQ(scene.Pixels(), before);
+}
+
+TEST_F(NumSliderDraw, LoadsImagesOfTheSameNamesAnew) {
+    const auto writePlain = [this](const char* name, int height, _LQColor color) {
+        CLQSurfHandle image = NewSurface(kSeekSize, height);
+        image.FillRect(0, 0, kSeekSize, height, color, false);
+        WriteImage(scene.ImageFolder() / name, image);
+    };
+    const auto writeAll = [&writePlain](unsigned char blue) {
+        writePlain("NumberShadowUp.lqi", kShadowHeight, {10, 0, blue, 255});
+        writePlain("NumberShadowDown.lqi", kShadowHeight, {20, 0, blue, 255});
+        writePlain("Up.lqi", kSeekSize, {30, 0, blue, 255});
+        writePlain("Down.lqi", kSeekSize, {40, 0, blue, 255});
+    };
+    const auto shown = [this] {
+        scene.Pump();
+        const int seek = kWheelX + wheel_layout::kSeekLeft;
+        const int bottom = kWheelY + kWheelHeight;
+        return std::vector<std::uint32_t>{scene.PixelAt(kWheelX, kWheelY), scene.PixelAt(kWheelX, bottom - 1),
+                                          scene.PixelAt(seek, kWheelY + wheel_layout::kSeekUpTop),
+                                          scene.PixelAt(seek, bottom - wheel_layout::kSeekDownAboveBottom)};
+    };
+
+    writeAll(1);
+    wheel.Prepare(FmBounds(), 98.0f);
+    wheel.SetSeekUpGnd(L"Up.lqi");
+    wheel.SetSeekDownGnd(L"Down.lqi");
+    window.AddChild(&wheel);
+    EXPECT_EQ(shown(), (std::vector<std::uint32_t>{0xFF0A0001, 0xFF140001, 0xFF1E0001, 0xFF280001}));
+
+    writeAll(2);
+    wheel.Invalidate();
+    EXPECT_EQ(shown(), (std::vector<std::uint32_t>{0xFF0A0001, 0xFF140001, 0xFF1E0001, 0xFF280001}))
+        << "a repaint reads no file";
+    wheel.SetShadowGnd();
+    EXPECT_EQ(shown(), (std::vector<std::uint32_t>{0xFF0A0002, 0xFF140002, 0xFF1E0001, 0xFF280001}));
+    wheel.SetSeekUpGnd(L"Up.lqi");
+    EXPECT_EQ(shown(), (std::vector<std::uint32_t>{0xFF0A0002, 0xFF140002, 0xFF1E0002, 0xFF280001}));
+    wheel.SetSeekDownGnd(L"Down.lqi");
+    EXPECT_EQ(shown(), (std::vector<std::uint32_t>{0xFF0A0002, 0xFF140002, 0xFF1E0002, 0xFF280002}));
 }
 
 TEST_F(NumSliderDraw, ShowsItsImagesWithoutAFont) {
