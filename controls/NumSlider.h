@@ -57,8 +57,10 @@ class KORVANEEX_API CLQNumSlider : public CLQBaseCtrl {
     int GetDocNum(float value);
 
     /// Loads the two images, of fixed names, that fade the top and the bottom row. `Create` does it by
-    /// itself.
+    /// itself. This and the two below read their files anew, unless a copy of the wheel still holds the
+    /// images.
     void SetShadowGnd();
+    /// The images that mark the two directions.
     void SetSeekUpGnd(const wchar_t* file);
     void SetSeekDownGnd(const wchar_t* file);
 
