@@ -22,7 +22,8 @@ bool CountsMalloc() {
 
 }  // namespace korvane::test
 
-// Apart from what they count, so that the compiler does not see that new is malloc.
+// Apart from what they count, so that the compiler does not see that new is malloc. The forms for arrays are
+// here because a sanitizer's own would not come by here.
 
 void* operator new(std::size_t size) {
     ++allocations;
@@ -30,9 +31,18 @@ void* operator new(std::size_t size) {
         return memory;
     throw std::bad_alloc();
 }
+void* operator new[](std::size_t size) {
+    return operator new(size);
+}
 void operator delete(void* memory) noexcept {
     std::free(memory);
 }
 void operator delete(void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
+void operator delete[](void* memory) noexcept {
+    std::free(memory);
+}
+void operator delete[](void* memory, std::size_t) noexcept {
     std::free(memory);
 }
