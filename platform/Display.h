@@ -44,4 +44,7 @@ KORVANE_API std::unique_ptr<Display> CreateDisplay(const char* name);
 /// Why the last CreateDisplay or Open failed, one line of UTF-8. Never null; valid until the next failure.
 KORVANE_API const char* DisplayFailure();
 
+/// Keeps a reason for DisplayFailure; returns false.
+bool FailDisplay(const char* text);
+
 }  // namespace korvane

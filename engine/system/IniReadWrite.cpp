@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "engine/system/IniText.h"
+#include "engine/system/System.h"
 #include "platform/Files.h"
 #include "platform/coredll.h"
 
@@ -208,9 +209,13 @@ void CLQIniReadWrite::Update() {
     std::string changed = IniText(bytes).With(impl.pending);
     if (changed.size() > kMaxFileBytes)
         return;
-    if (changed != bytes &&
-        !korvane::ReplaceFileAtomically(impl.path.c_str(), changed.data(), changed.size()))
-        return;
+    if (changed != bytes) {
+        const std::size_t separator = impl.path.find_last_of(L"\\/");
+        if (separator != std::wstring::npos)
+            CreateDir(impl.path.substr(0, separator));
+        if (!korvane::ReplaceFileAtomically(impl.path.c_str(), changed.data(), changed.size()))
+            return;
+    }
     impl.text = IniText(std::move(changed));
     impl.DropPending();
 }

@@ -46,7 +46,8 @@ class KORVANE_API CLQIniReadWrite {
 
     /// Writes pending changes into the file as it is at that moment, so that what others have written since
     /// stays, and replaces it in one step, so that a crash leaves the old or the new one. Changes that cannot
-    /// be written remain pending. A file that has all the values already is not touched.
+    /// be written remain pending. A file that has all the values already is not touched; missing folders
+    /// above a new one are made.
     void Update();
 
   private:

@@ -26,8 +26,9 @@ class KORVANE_API CLQScreen {
   public:
     static CLQScreen* GetInstance();
 
-    /// Opens the screen on a display back end ("memory", "sdl", ...). False when it cannot be opened, the
-    /// size is out of range (1 to 8192) or the screen is open already. `title` is the system window's title.
+    /// Opens the screen on a display back end ("memory", "sdl", ...). False, with
+    /// korvane::DisplayFailure saying why, when it cannot be opened, no surface can have that size or the
+    /// screen is open already. `title` is the system window's title.
     bool Open(const char* display, int width, int height, const wchar_t* title);
     void Close();
 

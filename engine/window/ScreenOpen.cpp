@@ -51,20 +51,24 @@ bool RegisterScreenClass() {
 }  // namespace
 
 bool CLQScreen::Open(const char* display, int width, int height, const wchar_t* title) {
-    if (m_pImpl->hwnd || !display || !RegisterScreenClass())
-        return false;
+    if (m_pImpl->hwnd)
+        return korvane::FailDisplay("the screen is open already");
+    if (!display)
+        return korvane::FailDisplay("no display is named");
     CLQSurfHandle buffer =
         CLQSurfManager::GetInstance()->CreateSurface(width, height, eSurface_ARGB8888, true);
     if (!buffer.GetSurface())
-        return false;
+        return korvane::FailDisplay("no screen can have that size");
     std::unique_ptr<korvane::Display> back = korvane::CreateDisplay(display);
     if (!back)
         return false;
     const wchar_t* caption = title ? title : L"";
-    HWND hwnd = ::CreateWindowExW(0, kScreenClass, caption, WS_POPUP | WS_VISIBLE, 0, 0, width, height,
-                                  nullptr, nullptr, nullptr, nullptr);
+    HWND hwnd = !RegisterScreenClass()
+                    ? nullptr
+                    : ::CreateWindowExW(0, kScreenClass, caption, WS_POPUP | WS_VISIBLE, 0, 0, width, height,
+                                        nullptr, nullptr, nullptr, nullptr);
     if (!hwnd)
-        return false;
+        return korvane::FailDisplay("the system gives the screen no window");
     if (!back->Open(width, height, caption, hwnd)) {
         ::DestroyWindow(hwnd);
         return false;

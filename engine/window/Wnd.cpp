@@ -203,7 +203,3 @@ bool CLQWnd::IsWindowEnabled() const {
 int CLQWnd::GetKind() const {
     return m_nKind;
 }
-
-korvane::LifeWatch CLQWnd::WatchLife() const {
-    return m_life.Watch();
-}

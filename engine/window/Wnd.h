@@ -78,7 +78,7 @@ class KORVANE_API CLQWnd {
     int GetKind() const;
 
     /// Ends with this object; see korvane::LifeWatch.
-    korvane::LifeWatch WatchLife() const;
+    korvane::LifeWatch WatchLife() const { return m_life.Watch(); }
 
     /// Groups and windows delete the children that were created with `new`, and only those: these operators
     /// note which objects were. CLQWnd has to be the first base of a class for that.

@@ -218,6 +218,15 @@ TEST_F(IniRewriting, WorksInMemoryWithoutAFileName) {
     EXPECT_EQ(ini_.GetString(L"a", L"x", L""), L"1");
 }
 
+TEST_F(IniRewriting, MakesTheFoldersOfANewFile) {
+    ini_.SetFileName(L"\\NandFlash\\Application\\Profile\\LQ_SysSettings.ini");
+    EXPECT_TRUE(Set(L"PATH", L"DATAPATH", L"\\Data"));
+    ini_.Update();
+    CLQIniReadWrite other;
+    other.SetFileName(L"\\NandFlash\\Application\\Profile\\LQ_SysSettings.ini");
+    EXPECT_EQ(other.GetString(L"PATH", L"DATAPATH", L""), L"\\Data");
+}
+
 TEST_F(IniRewriting, DropsPendingValuesWithTheNextFileName) {
     Load("[a]\nx=1\n");
     Set(L"a", L"x", L"2");

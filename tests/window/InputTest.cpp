@@ -274,10 +274,13 @@ TEST_F(Input, HandsSystemInformationChangesToEveryWindow) {
     Listener second;
     first.Create(0, 0, 10, 10);
     second.Create(0, 0, 10, 10);
-    PostMessageW(CLQScreen::GetInstance()->GetHWND(), korvane::kMsgSysInfoChanged, 17, 0);
-    scene.Pump();
-    EXPECT_EQ(first.item, 17);
-    EXPECT_EQ(second.item, 17);
+    for (const int item : {17, 1, 28, 29, 1000, 0, -1}) {
+        PostMessageW(CLQScreen::GetInstance()->GetHWND(), korvane::kMsgSysInfoChanged,
+                     static_cast<WPARAM>(item), 0);
+        scene.Pump();
+        EXPECT_EQ(first.item, item) << "unchanged, also beyond the items that there are";
+        EXPECT_EQ(second.item, item);
+    }
 }
 
 TEST_F(Input, HandsACommandToTheWindowThatHoldsItsControl) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "platform/Display.h"
+
 #include "tests/support/Scene.h"
 
 namespace {
@@ -14,7 +16,10 @@ TEST(Screen, OpensOnceOnAKnownDisplayInASizeItCanHave) {
     EXPECT_FALSE(screen->Open("no such display", 800, 480, L""));
     EXPECT_FALSE(screen->Open("memory", 0, 480, L""));
     EXPECT_FALSE(screen->Open("memory", 800, -1, L""));
+    EXPECT_FALSE(screen->Open("no such display", 800, 480, L""));
+    const std::string unknown = korvane::DisplayFailure();
     EXPECT_FALSE(screen->Open("memory", 100000, 100000, L""));
+    EXPECT_NE(korvane::DisplayFailure(), unknown) << "each refusal has a reason of its own";
     EXPECT_TRUE(screen->Open("memory", 320, 240, nullptr));
     EXPECT_FALSE(screen->Open("memory", 320, 240, L""));
     EXPECT_NE(screen->GetHWND(), nullptr);

@@ -14,7 +14,4 @@ void ActivateDisplay(Display* display);
 /// After this no thread calls the display any more.
 void DeactivateDisplay(Display* display);
 
-/// Keeps the text for DisplayFailure and returns false.
-bool FailDisplay(const char* text);
-
 }  // namespace korvane
