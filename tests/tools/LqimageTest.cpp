@@ -160,6 +160,25 @@ TEST_F(Lqimage, LeavesTheOldFileWhenItFails) {
     EXPECT_EQ(Files(), (std::vector<std::string>{"bad.png", "good.png", "old.lqi"}));
 }
 
+TEST_F(Lqimage, RefusesToWriteOntoTheFileThatItReads) {
+    WritePicture("a.png", 0);
+    ASSERT_EQ(Run("encode " + Quoted("a.png") + " " + Quoted("a.lqi")), 0) << errors_;
+    std::filesystem::create_symlink(At("a.png"), At("soft.lqi"));
+    std::filesystem::create_hard_link(At("a.png"), At("hard.lqi"));
+    const std::vector<std::uint8_t> png = Read("a.png");
+    const std::vector<std::uint8_t> lqi = Read("a.lqi");
+    for (const std::string name : {"a.png", "./a.png", "soft.lqi", "hard.lqi"}) {
+        EXPECT_EQ(Run("encode " + Quoted("a.png") + " " + Quoted(name)), 1) << name;
+        EXPECT_EQ(errors_,
+                  "lqimage: " + At(name).string() + ": is the file that is read; name another to write\n");
+    }
+    EXPECT_EQ(Run("decode " + Quoted("a.lqi") + " " + Quoted("a.lqi")), 1);
+    EXPECT_EQ(Run("encode " + Quoted("soft.lqi") + " " + Quoted("a.png")), 1);
+    EXPECT_EQ(Read("a.png"), png);
+    EXPECT_EQ(Read("a.lqi"), lqi);
+    EXPECT_TRUE(std::filesystem::is_symlink(At("soft.lqi")));
+}
+
 TEST_F(Lqimage, AnswersWrongUsageWithStatusTwo) {
     EXPECT_EQ(Run(""), 2);
     EXPECT_EQ(Run("encode"), 2);

@@ -40,6 +40,16 @@ CLQSurfHandle ToSurface(const png::Picture& picture) {
     return surface;
 }
 
+/// True, with an error, where writing `to` would destroy what is read: both lead to one file, by whatever
+/// links.
+bool IsOneFile(const fs::path& from, const fs::path& to, std::string& error) {
+    std::error_code failure;
+    if (!fs::equivalent(from, to, failure) || failure)
+        return false;
+    error = About(to, "is the file that is read; name another to write");
+    return true;
+}
+
 struct ImageFile {
     LqiHeader header;
     CLQSurfHandle surface;
@@ -72,6 +82,8 @@ bool ReadImage(const fs::path& file, ImageFile& image, std::string& error) {
 }  // namespace
 
 bool EncodeFile(const fs::path& from, const fs::path& to, const EncodeOptions& options, std::string& error) {
+    if (IsOneFile(from, to, error))
+        return false;
     png::Picture picture;
     std::string what;
     if (!png::ReadPng(from, picture, what)) {
@@ -96,6 +108,8 @@ bool EncodeFile(const fs::path& from, const fs::path& to, const EncodeOptions& o
 }
 
 bool DecodeFile(const fs::path& from, const fs::path& to, std::string& error) {
+    if (IsOneFile(from, to, error))
+        return false;
     ImageFile image;
     if (!ReadImage(from, image, error))
         return false;
