@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "engine/core/Rect.h"
-#include "engine/window/DrawShift.h"
 #include "engine/window/GroupCtrl.h"
 #include "engine/window/Window.h"
+#include "engine/window/parts/DrawShift.h"
 
 namespace {
 

@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "engine/window/Background.h"
 #include "engine/window/BaseCtrl.h"
-#include "engine/window/ChildList.h"
-#include "engine/window/ChildRouting.h"
+#include "engine/window/parts/Background.h"
+#include "engine/window/parts/ChildList.h"
+#include "engine/window/parts/ChildRouting.h"
 
 /// A control that owns child controls, which are drawn, moved and shown with it.
 ///

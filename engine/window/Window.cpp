@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "engine/core/Rect.h"
-#include "engine/window/DrawShift.h"
 #include "engine/window/Screen.h"
+#include "engine/window/parts/DrawShift.h"
 
 CLQWindow::CLQWindow() {
     m_nKind = korvane::kKindWindow;

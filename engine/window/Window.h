@@ -3,11 +3,11 @@
 #include <string>
 #include <vector>
 
-#include "engine/window/Background.h"
 #include "engine/window/BaseCtrl.h"
-#include "engine/window/ChildList.h"
-#include "engine/window/ChildRouting.h"
-#include "engine/window/UpdateRegion.h"
+#include "engine/window/parts/Background.h"
+#include "engine/window/parts/ChildList.h"
+#include "engine/window/parts/ChildRouting.h"
+#include "engine/window/parts/UpdateRegion.h"
 
 /// A dialog or screen that owns controls. `Create` puts it on top of the windows on the screen, its end takes
 /// it off.

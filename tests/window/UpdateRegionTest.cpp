@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "engine/window/UpdateRegion.h"
+#include "engine/window/parts/UpdateRegion.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 #include <utility>
 
 #include "engine/draw/SurfManager.h"
-#include "engine/window/ScreenState.h"
 #include "engine/window/Window.h"
+#include "engine/window/screen/ScreenState.h"
 
 namespace {
 

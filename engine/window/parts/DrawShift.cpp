@@ -1,4 +1,4 @@
-#include "engine/window/DrawShift.h"
+#include "engine/window/parts/DrawShift.h"
 
 #include "engine/core/Rect.h"
 

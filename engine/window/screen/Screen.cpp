@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "engine/window/ScreenState.h"
 #include "engine/window/Window.h"
+#include "engine/window/screen/ScreenState.h"
 
 CLQScreen* CLQScreen::GetInstance() {
     // Never destroyed: windows that end with the program still leave it.

@@ -1,8 +1,8 @@
 #include <utility>
 
-#include "engine/window/DrawShift.h"
-#include "engine/window/ScreenState.h"
 #include "engine/window/Window.h"
+#include "engine/window/parts/DrawShift.h"
+#include "engine/window/screen/ScreenState.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "engine/window/ChildList.h"
+#include "engine/window/parts/ChildList.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "engine/window/UpdateRegion.h"
+#include "engine/window/parts/UpdateRegion.h"
 
 namespace korvane {
 

@@ -1,4 +1,4 @@
-#include "engine/window/Background.h"
+#include "engine/window/parts/Background.h"
 
 #include "engine/core/Rect.h"
 #include "engine/draw/SurfManager.h"

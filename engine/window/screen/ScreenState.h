@@ -5,7 +5,7 @@
 
 #include "engine/core/Life.h"
 #include "engine/window/Screen.h"
-#include "engine/window/UpdateRegion.h"
+#include "engine/window/parts/UpdateRegion.h"
 #include "platform/Display.h"
 
 struct CLQScreen::Impl {

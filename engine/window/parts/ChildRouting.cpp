@@ -1,9 +1,9 @@
-#include "engine/window/ChildRouting.h"
+#include "engine/window/parts/ChildRouting.h"
 
 #include "engine/core/Rect.h"
 #include "engine/window/BaseCtrl.h"
-#include "engine/window/DrawShift.h"
 #include "engine/window/GroupCtrl.h"
+#include "engine/window/parts/DrawShift.h"
 
 namespace korvane {
 

@@ -1,8 +1,8 @@
 #include <vector>
 
 #include "engine/system/System.h"
-#include "engine/window/ScreenState.h"
 #include "engine/window/Window.h"
+#include "engine/window/screen/ScreenState.h"
 
 namespace korvane {
 

@@ -3,7 +3,7 @@
 #include "engine/core/Life.h"
 #include "engine/core/Message.h"
 #include "engine/draw/Surface.h"
-#include "engine/window/ChildList.h"
+#include "engine/window/parts/ChildList.h"
 
 namespace korvane {
 
