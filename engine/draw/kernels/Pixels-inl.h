@@ -144,7 +144,7 @@ HWY_INLINE hn::Vec<D16> LerpLanes(D16 d16, hn::Vec<D16> a, hn::Vec<D16> b, hn::V
 }
 
 template <class D>
-HWY_INLINE Halves<D> LerpHalves(D d, const Halves<D>& a, const Halves<D>& b, Pixels<D> weight) {
+HWY_INLINE Halves<D> LerpHalves(D /*d*/, const Halves<D>& a, const Halves<D>& b, Pixels<D> weight) {
     const hn::Repartition<std::uint16_t, D> d16;
     const auto by = hn::BitCast(d16, weight);
     return {hn::ShiftRight<8>(LerpLanes(d16, a.low, b.low, by)),
