@@ -7,6 +7,11 @@ namespace {
 constexpr wchar_t kRestHint[] = L"Swipe the wheel to seek";
 constexpr int kClockPeriodMs = 5000;
 
+constexpr int kWheelLeft = 248;
+constexpr int kWheelTop = 118;
+/// Whole numbers stand higher in the wheel than decimals do: this far lower, both look centred in the lens.
+constexpr int kWholeNumberDrop = 6;
+
 _LQColor Grey() {
     return {159, 180, 208, 255};
 }
@@ -46,7 +51,7 @@ void RadioScreen::CreateStrip() {
 }
 
 void RadioScreen::CreateWheel() {
-    wheel_.Create(248, 118, 312, 212);
+    wheel_.Create(kWheelLeft, kWheelTop, 312, 212);
     wheel_.SetFont(CLQFontManager::GetInstance()->GetDefaultFont());
     wheel_.SetFontSize(72, 72);
     wheel_.SetSeekUpGnd(L"SeekUp.lqi");
@@ -106,6 +111,7 @@ void RadioScreen::ShowBand() {
     highest_.SetText(band.Text(band.bounds.maximum).c_str());
     bandSlider_.SetRange(0, band.StepCount());
     bandSlider_.SetValue(band.StepOf(Frequency()));
+    wheel_.MoveTo(kWheelLeft, kWheelTop + (band.bounds.decimal ? 0 : kWholeNumberDrop));
     wheel_.SetBoundScalFreqID(band.bounds);
     wheel_.SetVaule(Frequency());
 }

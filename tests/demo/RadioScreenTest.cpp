@@ -67,6 +67,18 @@ class RadioTest : public testing::Test {
         scene_.Release(x, 408);
     }
 
+    /// The row of the screen in which the wheel's middle number begins.
+    int MiddleNumberTop() {
+        constexpr _LQRect kMiddle = {250, 470, 184, 260};
+        for (int y = kMiddle.top; y < kMiddle.bottom; ++y) {
+            for (int x = kMiddle.left; x < kMiddle.right; ++x) {
+                if (scene_.PixelAt(x, y) == 0xFFFFFFFFu)
+                    return y;
+            }
+        }
+        return kMiddle.bottom;
+    }
+
     test::Scene scene_;
     RadioScreen radio_;
 };
@@ -148,6 +160,14 @@ TEST_F(RadioTest, SwitchesTheBandAndComesBackToItsFrequency) {
     EXPECT_EQ(Step(), 51);  // 990 kHz
     PressBandButton();
     EXPECT_EQ(Step(), kStartStep + 2);
+}
+
+TEST_F(RadioTest, ShowsWholeNumbersAsHighAsDecimals) {
+    const int fm = MiddleNumberTop();
+    PressBandButton();
+    EXPECT_NEAR(MiddleNumberTop(), fm, 2);
+    PressBandButton();
+    EXPECT_EQ(MiddleNumberTop(), fm);
 }
 
 TEST_F(RadioTest, SeeksInStepsOfAm) {
