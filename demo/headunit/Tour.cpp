@@ -147,7 +147,7 @@ std::vector<TourStep> RadioTour() {
         picture("fm-tuned-by-hand"),
         press(kWheelX, 280),
         release(kWheelX, 160),
-        wait(kStepMs + 2 * kTickMs),
+        wait(kStepMs + kTickMs),
         picture("fm-carry"),
         press(kWheelX, 224),
         release(kWheelX, 224),
