@@ -5,6 +5,8 @@ int main() {
         return 1;
     CLQWindow window;
     window.Create(0, 0, 400, 300);
+    _LQColor night = {10, 17, 30, 255};
+    window.EnableBkgColor(true, &night);
 
     CLQNumSlider wheel;
     wheel.Create(44, 44, 312, 212);
