@@ -189,7 +189,14 @@ TEST_F(Png, RefusesPicturesLargerThanSurfaces) {
     Picture picture;
     std::string error;
     EXPECT_FALSE(ReadPng(At("wide.png"), picture, error));
-    EXPECT_FALSE(error.empty());
+    EXPECT_EQ(error, "is wider or higher than 8192 pixels");
+
+    file.width = 1;
+    file.height = 8193;
+    file.rows.assign(8193, std::vector<png_byte>(1));
+    Write("high.png", Encode(file));
+    EXPECT_FALSE(ReadPng(At("high.png"), picture, error));
+    EXPECT_EQ(error, "is wider or higher than 8192 pixels");
 
     file.width = 8192;
     file.height = 8192;

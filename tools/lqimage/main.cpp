@@ -28,6 +28,13 @@ int Fail(const std::string& error) {
     return kFailed;
 }
 
+std::string DescribeWrongUsage(const CLI::App* app, const CLI::Error& error) {
+    const std::vector<std::string> unknown = app->remaining();
+    if (app->get_subcommands().empty() && !unknown.empty())
+        return "lqimage: '" + unknown.front() + "' is unknown; the commands are encode, decode and info\n";
+    return "lqimage: " + CLI::FailureMessage::simple(app, error);
+}
+
 int ConvertAll(const Arguments& arguments, const char* fromExtension, const char* toExtension,
                const std::function<bool(const FilePair&, std::string&)>& convert) {
     std::vector<FilePair> pairs;
@@ -75,6 +82,7 @@ int Run(int argc, char** argv) {
     Arguments arguments;
     CLI::App app("Converts pictures between PNG and the head unit's .lqi format", "lqimage");
     app.require_subcommand(1);
+    app.failure_message(DescribeWrongUsage);
 
     CLI::App* const encode =
         app.add_subcommand("encode", "PNG to .lqi: a file, or all .png files of a folder");

@@ -54,10 +54,14 @@ bool ReadRows(const Reader& reader, Input& input, Picture& picture) {
     if (setjmp(png_jmpbuf(png)) != 0)
         return false;
     png_set_read_fn(png, &input, OnRead);
-    png_set_user_limits(png, kMaxSurfaceExtent, kMaxSurfaceExtent);
+    // The library's own limits would call a large picture an invalid one.
+    png_set_user_limits(png, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
     png_read_info(png, info);
     const png_uint_32 width = png_get_image_width(png, info);
     const png_uint_32 height = png_get_image_height(png, info);
+    static_assert(kMaxSurfaceExtent == 8192);
+    if (width > kMaxSurfaceExtent || height > kMaxSurfaceExtent)
+        png_error(png, "is wider or higher than 8192 pixels");
     if (std::uint64_t{width} * height > kMaxSurfacePixels)
         png_error(png, "has too many pixels");
     png_set_expand(png);
