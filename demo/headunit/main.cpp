@@ -35,21 +35,31 @@ void Complain(const std::string& text) {
     std::fprintf(stderr, "headunit: %s\n", text.c_str());
 }
 
-/// Reads "800x480".
+/// Reads "800x480"; what is wrong with the text, or nothing.
 std::string ParseSize(const std::string& text, int& width, int& height) {
     int end = 0;
-    if (std::sscanf(text.c_str(), "%5dx%5d%n", &width, &height, &end) == 2 &&
-        static_cast<std::size_t>(end) == text.size() && width > 0 && height > 0 &&
-        width <= korvane::kMaxSurfaceExtent && height <= korvane::kMaxSurfaceExtent)
-        return {};
-    return "is not a size such as 800x480";
+    if (std::sscanf(text.c_str(), "%9dx%9d%n", &width, &height, &end) != 2 ||
+        static_cast<std::size_t>(end) != text.size() || width <= 0 || height <= 0)
+        return "is not a size such as 800x480";
+    constexpr int kExtent = korvane::kMaxSurfaceExtent;
+    constexpr int kPixels = korvane::kMaxSurfacePixels;
+    if (width > kExtent || height > kExtent || width > kPixels / height)
+        return "is too large: a screen has at most " + std::to_string(kExtent) + " pixels a side and " +
+               std::to_string(kPixels) + " in all";
+    return {};
+}
+
+std::string DescribeWrongUsage(const CLI::App* app, const CLI::Error& error) {
+    return "headunit: " + CLI::FailureMessage::simple(app, error);
 }
 
 /// Fills in the options; the exit status when there is nothing more to do.
 std::optional<int> ReadOptions(int argc, char** argv, Options& options) {
     CLI::App app("A head unit's radio, on a window of the desktop, on a device's display or off-screen.");
-    app.add_option("--display", options.display, "Where it is shown: sdl (a window) or memory (nowhere)")
-        ->capture_default_str();
+    app.failure_message(DescribeWrongUsage);
+    auto* display =
+        app.add_option("--display", options.display, "Where it is shown: sdl (a window) or memory (nowhere)")
+            ->capture_default_str();
     app.add_option_function<std::string>(
            "--size",
            [&options](const std::string& text) {
@@ -60,13 +70,17 @@ std::optional<int> ReadOptions(int argc, char** argv, Options& options) {
            "The screen's size in pixels")
         ->default_str("800x480")
         ->type_name("WxH");
-    app.add_option("--device-root", options.deviceRoot, "Folder that holds the device's files")
+    app.add_option("--device-root", options.deviceRoot,
+                   "Folder that holds the device's files; unless given, that of the environment variable "
+                   "KORVANE_DEVICE_ROOT, else the one that the build filled")
         ->check(CLI::ExistingDirectory);
     auto* tour =
         app.add_option("--tour", options.tourFolder,
-                       "Play a tour off-screen, in virtual time, and write its pictures into a folder");
+                       "Play a tour off-screen, in virtual time, and write its pictures into a folder")
+            ->excludes(display);
     app.add_option("--screenshot", options.screenshot,
-                   "Write a picture of the first screen to a PNG file and end")
+                   "Write a picture of the first screen, made off-screen, to a PNG file and end")
+        ->excludes(display)
         ->excludes(tour);
     try {
         app.parse(argc, argv);

@@ -31,17 +31,21 @@ refuses() {
     local status=0
     "$program" "${@:3}" >"$scratch/out" 2>"$scratch/err" || status=$?
     [[ $status == "$1" ]] || fail "${*:3}: ends with $status"
-    grep -q -- "$2" "$scratch/err" || fail "${*:3}: says $(<"$scratch/err")"
+    grep -q -- "^headunit: .*$2" "$scratch/err" || fail "${*:3}: says $(<"$scratch/err")"
     [[ ! -s $scratch/out ]] || fail "${*:3}: prints to standard output"
 }
 refuses 3 'no-such-display' --display no-such-display
 refuses 2 "'800' is not a size" --size 800
 refuses 2 "is not a size" --size 0x480
 refuses 2 "is not a size" --size 800x480x2
-refuses 2 "is not a size" --size 99999x480
+refuses 2 "'99999x480' is too large" --size 99999x480
+refuses 2 "'8192x8192' is too large: .* 16777216 in all" --size 8192x8192
 refuses 2 'no-such-folder' --device-root "$scratch/no-such-folder"
 refuses 2 'nonsense' --nonsense
 refuses 2 'tour' --tour "$scratch/x" --screenshot "$scratch/y.png"
+refuses 2 'display' --tour "$scratch/x" --display memory
+refuses 2 'display' --display memory --screenshot "$scratch/y.png"
+[[ ! -e $scratch/x && ! -e $scratch/y.png ]] || fail "makes pictures although the command is wrong"
 mkdir "$scratch/empty"
 refuses 1 'images' --device-root "$scratch/empty" --screenshot "$scratch/z.png"
 : >"$scratch/file"
