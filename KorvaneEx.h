@@ -8,3 +8,6 @@
 #include "engine/Korvane.h"
 #include "module/MessageLoop.h"
 #include "module/SysBeep.h"
+#include "sysinfo/MainApplication.h"
+#include "sysinfo/ShareMemLink.h"
+#include "sysinfo/SysInfo.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-// Marks what a library offers to others; everything else stays hidden. KORVANE_BUILD and KORVANEEX_BUILD are
-// defined only while the library itself is compiled.
+// Marks what a library offers to others; everything else stays hidden. KORVANE_BUILD, KORVANEEX_BUILD
+// and LQ_SERVICE_BUILD are defined only while the library itself is compiled.
 
 #if defined(_WIN32)
 #define KORVANE_EXPORTED __declspec(dllexport)
@@ -21,4 +21,10 @@
 #define KORVANEEX_API KORVANE_EXPORTED
 #else
 #define KORVANEEX_API KORVANE_IMPORTED
+#endif
+
+#if defined(LQ_SERVICE_BUILD)
+#define LQ_SERVICE_API KORVANE_EXPORTED
+#else
+#define LQ_SERVICE_API KORVANE_IMPORTED
 #endif
