@@ -1,0 +1,58 @@
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "platform/Simulation.h"
+#include "platform/posix/files/DeviceKey.h"
+
+#include "tests/platform/DeviceFolder.h"
+
+namespace korvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(DeviceKey, IsSixteenHexadecimalDigits) {
+    const DeviceFolder device;
+    const std::string key = DeviceKey();
+    EXPECT_EQ(key.size(), 16u);
+    EXPECT_EQ(key.find_first_not_of("0123456789abcdef"), std::string::npos) << key;
+}
+
+TEST(DeviceKey, IsTheSameHoweverTheRootIsWritten) {
+    const DeviceFolder device;
+    device.Write("folder/file");
+    const std::string key = DeviceKey();
+    fs::create_directory_symlink(device.Path(), device.Path() + "/itself");
+    for (const char* const way : {"/", "/.", "/folder/..", "/itself", "/itself/", "//folder//../"}) {
+        SetDeviceRoot(device.Path() + way);
+        EXPECT_EQ(DeviceKey(), key) << way;
+    }
+    fs::current_path(device.Path());
+    SetDeviceRoot(".");
+    EXPECT_EQ(DeviceKey(), key) << "relative";
+    fs::current_path("/");
+}
+
+TEST(DeviceKey, DiffersBetweenDevices) {
+    const DeviceFolder one;
+    const std::string key = DeviceKey();
+    const DeviceFolder other;
+    EXPECT_NE(DeviceKey(), key);
+    SetDeviceRoot(one.Path());
+    EXPECT_EQ(DeviceKey(), key);
+}
+
+TEST(DeviceKey, ExistsForARootThatDoesNot) {
+    const DeviceFolder device;
+    const std::string key = DeviceKey();
+    SetDeviceRoot(device.Path() + "/missing");
+    const std::string missing = DeviceKey();
+    EXPECT_NE(missing, key);
+    SetDeviceRoot(device.Path() + "/missing/");
+    EXPECT_EQ(DeviceKey(), missing);
+    fs::create_directory(device.Path() + "/missing");
+    EXPECT_EQ(DeviceKey(), missing) << "once it was made";
+}
+
+}  // namespace
+}  // namespace korvane
