@@ -57,4 +57,32 @@ enum RdsIcon : unsigned char {
     kRdsIconTp = 16,
 };
 
+/// Numbers of the items, the parameter of message 1191.
+enum SysInfoItem : int {
+    kItemBluetooth = 1,
+    kItemClockForm = 4,
+    kItemMute = 5,
+    kItemParking = 6,
+    kItemRdsIcons = 7,
+    kItemReg = 8,
+    kItemPty = 9,
+    kItemAf = 10,
+    kItemTa = 11,
+    kItemTp = 12,
+    kItemGps = 13,
+    kItemGuide = 14,
+    kItemTrafficAnnouncement = 15,
+    kItemZones = 16,
+    kItemLanguage = 17,
+    kItemUsb = 22,
+    kItemDiscAudio = 23,
+    kItemDiscVideo = 24,
+    kItemIpod = 25,
+    kItemTv = 26,
+    kItemAux = 27,
+    kItemNavi = 28,
+    kItemSource = 31,
+    kItemRearZone = 32,
+};
+
 }  // namespace korvane

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "engine/core/Borrowed.h"
 #include "engine/draw/Surface.h"
 #include "engine/system/Timer.h"
 #include "engine/widgets/Button.h"
@@ -18,7 +19,11 @@
 /// the system-information service: from `OnInit` on, and at each message 1191.
 ///
 /// As the panel hangs below the strip, give the window the size of the screen; it has no background and lets
-/// touches through where it shows nothing. A copy shares the controls and the link to the service.
+/// touches through where it shows nothing.
+///
+/// A control that the layouts lack, or that the application deletes, is done without. A copy shares the
+/// controls, the timers and the link to the service. A timer ticks for the dialog that started it and ends
+/// with that; the buttons go on answering to the dialog that built them.
 class KORVANEEX_API CLQTitleDialog : public CLQWindow {
   public:
     CLQTitleDialog();
@@ -30,7 +35,8 @@ class KORVANEEX_API CLQTitleDialog : public CLQWindow {
     void Draw(CLQSurfHandle& target) override;
     /// An empty string.
     std::wstring GetDialogName() override;
-    /// Builds the strip and the panel. The result is that of CLQWindow::OnInit.
+    /// Builds the strip and the panel, in place of those of an earlier call. The result is that of
+    /// CLQWindow::OnInit.
     bool OnInit() override;
     /// Hook for a press on the back button; does nothing.
     void OnBtnBackPressUp() override;
@@ -39,14 +45,19 @@ class KORVANEEX_API CLQTitleDialog : public CLQWindow {
     void SetTitleInfo(const wchar_t* text, bool scroll, int hideMs);
     /// The same with a text of the language table.
     void SetTitleInfo(int langId, bool scroll, int hideMs);
-    /// Shows an image instead of the title. A null name clears the title and leaves the time-out alone.
+    /// Shows an image instead of the title. A null name clears the text alone, and leaves image and time-out
+    /// as they are.
     void SetTitleIcon(const wchar_t* imageFile, int hideMs);
     std::wstring GetTitleInfo();
+    /// The image below the strip. A null name changes nothing.
     void SetTitleBkgSurf(const wchar_t* imageFile);
+    /// The caption of the back button, which is its element 1.
     void SetTitleBackBtnID(int langId);
     /// Shows the back button in place of the status icons; no traffic announcement is shown meanwhile.
     void SetTitleBackBtnShow(bool show);
+    /// Moves the strip to its default position and shows it.
     void MoveTitleToDefaultPos();
+    /// (0, 19) before `OnInit`, then where the layout puts the strip on the screen.
     void GetTitleDefaultPos(int& x, int& y);
     /// Null before `OnInit`, like the groups of the panel.
     CLQGroupCtrl* GetGpTitle();
@@ -70,6 +81,18 @@ class KORVANEEX_API CLQTitleDialog : public CLQWindow {
     void CreatConfigDir(std::wstring dir);
 
   private:
+    // The strip: TitleDialog.cpp builds it.
+    void BuildTitle();
+    void FindTitleControls();
+    void SplitTitleInfo();
+    void RefreshItem(int item);
+
+    // The title: TitleText.cpp.
+    void ApplyHideTime(int hideMs);
+    void ClearTitleIcon();
+    void OnTimerHide(void*, int);
+
+    // The icons: StatusIcons.cpp and RdsIcons.cpp.
     void UpdateGPS();
     void UpdateMute();
     void UpdateBT();
@@ -78,19 +101,27 @@ class KORVANEEX_API CLQTitleDialog : public CLQWindow {
     void UpdateAF();
     void UpdateTA();
     void UpdateTP();
+    void OnTimerAFFlashing(void*, int);
+
+    // The buttons: TitleButtons.cpp.
     void UpdateBackBtn();
     void UpdateGuideBtn();
     void UpdateSwitchBtn();
     void UpdateTACancelBtn();
-    void OnTimerAFFlashing(void*, int);
-    void OnTimerHide(void*, int);
     void OnBtnPressUp(void* ctrl);
     void PostMessageToMain(int msg, unsigned wParam, long lParam, bool send);
 
+    // The clock, the play time and the traffic text: TitleClock.cpp.
     void UpdateTime();
     void OnTimerUpdateTime(void*, int);
+    /// Shares the width of the title, and what the cancel button leaves free, between title and play time.
+    void LayOutPlayTime();
     void UpdateTAText();
 
+    // The panel.
+    void PrepareShortCutConfig();
+    void BuildShortCutPanel();
+    void BuildShortCutShadow();
     void ReadShortCutDefaultID();
     void SetDefaultShortCutIcon();
     void UpdateAllShortCutIcon();
@@ -98,58 +129,44 @@ class KORVANEEX_API CLQTitleDialog : public CLQWindow {
     void SetShortCutBtnDisableState(CLQButton* button, int id);
     void OnShurtCutBtnPressUp(void* ctrl);
 
-    // Steps of OnInit.
-    void BuildTitle();
-    void FindTitleControls();
-    void SplitTitleInfo();
-    void PrepareShortCutConfig();
-    void BuildShortCutPanel();
-    void BuildShortCutShadow();
-
-    void LayOutPlayTime();
-    void ApplyHideTime(int hideMs);
-    void ClearTitleIcon();
-    void ShowRdsIcon(CLQStatic* icon, unsigned char bit, bool on, const wchar_t* normal,
-                     const wchar_t* focus);
-    void RefreshItem(int item);
-
     static constexpr int kShortCutCount = 5;
 
     void (*m_pfnShortCutBack)(void*) = nullptr;
     unsigned char m_byShortCutID[kShortCutCount] = {};
-    CLQButton* m_pShortCutBtn[kShortCutCount] = {};
-    CLQButton* m_pShortCutBack = nullptr;
-    // The window deletes the three groups; the groups delete what is in them.
-    CLQGroupCtrl* m_pGpShortCutShadow = nullptr;
-    CLQGroupCtrl* m_pGpShortCut = nullptr;
-    CLQGroupCtrl* m_pGpTitle = nullptr;
-    CLQStatic* m_pStInfo = nullptr;
-    CLQButton* m_pBtnTACancel = nullptr;
-    CLQButton* m_pBtnToFront = nullptr;
-    CLQButton* m_pBtnToRear = nullptr;
-    CLQButton* m_pBtnGuide = nullptr;
-    CLQButton* m_pBtnBack = nullptr;
-    CLQGroupCtrl* m_pGpIconInfo = nullptr;
-    CLQStatic* m_pIconGPS = nullptr;
-    CLQStatic* m_pIconMute = nullptr;
-    CLQStatic* m_pIconBT = nullptr;
-    CLQGroupCtrl* m_pGpRDS = nullptr;
-    CLQStatic* m_pIconREG = nullptr;
-    CLQStatic* m_pIconPTY = nullptr;
-    CLQStatic* m_pIconAF = nullptr;
-    CLQStatic* m_pIconTA = nullptr;
-    CLQStatic* m_pIconTP = nullptr;
-    CLQGroupCtrl* m_pGp12HR = nullptr;
-    CLQStatic* m_pSt24HR = nullptr;
-    CLQStatic* m_pSt12HR = nullptr;
-    CLQStatic* m_pIconAM = nullptr;
-    CLQStatic* m_pIconPM = nullptr;
+    // The window owns the three groups, the groups own what is in them.
+    korvane::Borrowed<CLQButton> m_pShortCutBtn[kShortCutCount];
+    korvane::Borrowed<CLQButton> m_pShortCutBack;
+    korvane::Borrowed<CLQGroupCtrl> m_pGpShortCutShadow;
+    korvane::Borrowed<CLQGroupCtrl> m_pGpShortCut;
+    korvane::Borrowed<CLQGroupCtrl> m_pGpTitle;
+    korvane::Borrowed<CLQStatic> m_pStInfo;
+    korvane::Borrowed<CLQButton> m_pBtnTACancel;
+    korvane::Borrowed<CLQButton> m_pBtnToFront;
+    korvane::Borrowed<CLQButton> m_pBtnToRear;
+    korvane::Borrowed<CLQButton> m_pBtnGuide;
+    korvane::Borrowed<CLQButton> m_pBtnBack;
+    korvane::Borrowed<CLQGroupCtrl> m_pGpIconInfo;
+    korvane::Borrowed<CLQStatic> m_pIconGPS;
+    korvane::Borrowed<CLQStatic> m_pIconMute;
+    korvane::Borrowed<CLQStatic> m_pIconBT;
+    korvane::Borrowed<CLQGroupCtrl> m_pGpRDS;
+    korvane::Borrowed<CLQStatic> m_pIconREG;
+    korvane::Borrowed<CLQStatic> m_pIconPTY;
+    korvane::Borrowed<CLQStatic> m_pIconAF;
+    korvane::Borrowed<CLQStatic> m_pIconTA;
+    korvane::Borrowed<CLQStatic> m_pIconTP;
+    korvane::Borrowed<CLQGroupCtrl> m_pGp12HR;
+    korvane::Borrowed<CLQStatic> m_pSt24HR;
+    korvane::Borrowed<CLQStatic> m_pSt12HR;
+    korvane::Borrowed<CLQStatic> m_pIconAM;
+    korvane::Borrowed<CLQStatic> m_pIconPM;
     CLQTimer m_timerUpdateTime;
     std::wstring m_strTime;
     bool m_bBackBtnShow = false;
     int m_nDefaultX = 0;
     int m_nDefaultY = 19;
     CLQShareMemLink m_link;
+    /// The service's, or the link's own; null when the service has none.
     _LQSysInfo* m_pSysInfo = nullptr;
     bool m_bSourceType = true;
     CLQTimer m_timerAFFlashing;
@@ -159,10 +176,10 @@ class KORVANEEX_API CLQTitleDialog : public CLQWindow {
     int m_nInfoWidth = 0;
     CLQTimer m_timerHide;
     bool m_bTitleIconShow = false;
-    CLQStatic* m_pStPlayTime = nullptr;
+    korvane::Borrowed<CLQStatic> m_pStPlayTime;
     int m_nPlayTimeWidth = 162;
-    CLQGroupCtrl* m_pGpInfo = nullptr;
-    CLQStatic* m_pStTAText = nullptr;
+    korvane::Borrowed<CLQGroupCtrl> m_pGpInfo;
+    korvane::Borrowed<CLQStatic> m_pStTAText;
     std::wstring m_strConfigDir;
     int m_nDefaultShortCutID[kShortCutCount] = {-1, -1, -1, -1, -1};
     std::wstring m_strDefaultShortCutID;
