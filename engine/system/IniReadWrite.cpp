@@ -149,6 +149,19 @@ void CLQIniReadWrite::SetFileName(const std::wstring& file) {
     m_pImpl->text = !file.empty() && ReadIniFile(file, bytes) ? IniText(std::move(bytes)) : IniText();
 }
 
+bool CLQIniReadWrite::SetContents(std::string bytes) {
+    if (bytes.size() > kMaxFileBytes)
+        return false;
+    m_pImpl->DropPending();
+    m_pImpl->path.clear();
+    m_pImpl->text = IniText(std::move(bytes));
+    return true;
+}
+
+std::string CLQIniReadWrite::GetContents() const {
+    return m_pImpl->text.With(m_pImpl->pending);
+}
+
 int CLQIniReadWrite::GetInt(const wchar_t* section, const wchar_t* key, int fallback) {
     std::wstring value;
     int number = 0;

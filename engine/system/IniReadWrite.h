@@ -28,6 +28,11 @@ class KORVANE_API CLQIniReadWrite {
     /// are dropped. Without a name (null or empty) everything happens in memory.
     void SetFileName(const wchar_t* file);
     void SetFileName(const std::wstring& file);
+    /// Works in memory on the given bytes of a file, as without a name. False, changing nothing, for more
+    /// than 1 MB.
+    bool SetContents(std::string bytes);
+    /// The bytes of the file as it was read, with the changes that are pending.
+    std::string GetContents() const;
 
     /// `fallback` when the key is missing or its value is not a number as a whole: decimal with or without a
     /// sign, stopping at the limits of int, or 0x and a hexadecimal pattern of 32 bits (0xFFFFFFFF is -1).

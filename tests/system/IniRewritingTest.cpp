@@ -218,6 +218,28 @@ TEST_F(IniRewriting, WorksInMemoryWithoutAFileName) {
     EXPECT_EQ(ini_.GetString(L"a", L"x", L""), L"1");
 }
 
+TEST_F(IniRewriting, WorksInMemoryOnTheContentsOfAFile) {
+    Load("[a]\nx=1\n");
+    ASSERT_TRUE(Set(L"a", L"x", L"2"));
+    ASSERT_TRUE(ini_.SetContents("; other\n[a]\ny = 1\n"));
+    EXPECT_EQ(ini_.GetString(L"a", L"x", L"none"), L"none");
+    EXPECT_EQ(ini_.GetContents(), "; other\n[a]\ny = 1\n");
+    ASSERT_TRUE(Set(L"a", L"y", L"2"));
+    ASSERT_TRUE(Set(L"b", L"z", L"3"));
+    EXPECT_EQ(ini_.GetContents(), "; other\n[a]\ny = 2\n\n[b]\nz = 3\n");
+    EXPECT_EQ(Updated(), "[a]\nx=1\n") << "no file has these contents";
+    EXPECT_FALSE(ini_.SetContents(std::string(kMegabyte + 1, ' ')));
+    EXPECT_EQ(ini_.GetString(L"b", L"z", L"none"), L"3");
+}
+
+TEST_F(IniRewriting, GivesTheContentsOfItsFile) {
+    Load("[a]\nx=1\n");
+    EXPECT_EQ(ini_.GetContents(), "[a]\nx=1\n");
+    ASSERT_TRUE(Set(L"a", L"x", L"22"));
+    EXPECT_EQ(ini_.GetContents(), "[a]\nx=22\n");
+    EXPECT_EQ(device_.Read("x.ini"), "[a]\nx=1\n");
+}
+
 TEST_F(IniRewriting, MakesTheFoldersOfANewFile) {
     ini_.SetFileName(L"\\NandFlash\\Application\\Profile\\LQ_SysSettings.ini");
     EXPECT_TRUE(Set(L"PATH", L"DATAPATH", L"\\Data"));
