@@ -5,6 +5,7 @@
 
 #include "engine/draw/SurfManager.h"
 
+#include "tools/hostfile/FilePairs.h"
 #include "tools/hostfile/HostFile.h"
 #include "tools/lqimage/PixelType.h"
 #include "tools/png/Png.h"
@@ -40,16 +41,6 @@ CLQSurfHandle ToSurface(const png::Picture& picture) {
     return surface;
 }
 
-/// True, with an error, where writing `to` would destroy what is read: both lead to one file, by whatever
-/// links.
-bool IsOneFile(const fs::path& from, const fs::path& to, std::string& error) {
-    std::error_code failure;
-    if (!fs::equivalent(from, to, failure) || failure)
-        return false;
-    error = About(to, "is the file that is read; name another to write");
-    return true;
-}
-
 struct ImageFile {
     LqiHeader header;
     CLQSurfHandle surface;
@@ -82,7 +73,7 @@ bool ReadImage(const fs::path& file, ImageFile& image, std::string& error) {
 }  // namespace
 
 bool EncodeFile(const fs::path& from, const fs::path& to, const EncodeOptions& options, std::string& error) {
-    if (IsOneFile(from, to, error))
+    if (IsOneFile({from, to}, error))
         return false;
     png::Picture picture;
     std::string what;
@@ -108,7 +99,7 @@ bool EncodeFile(const fs::path& from, const fs::path& to, const EncodeOptions& o
 }
 
 bool DecodeFile(const fs::path& from, const fs::path& to, std::string& error) {
-    if (IsOneFile(from, to, error))
+    if (IsOneFile({from, to}, error))
         return false;
     ImageFile image;
     if (!ReadImage(from, image, error))

@@ -3,8 +3,8 @@
 #include <exception>
 #include <functional>
 
+#include "tools/hostfile/FilePairs.h"
 #include "tools/lqimage/Commands.h"
-#include "tools/lqimage/FilePairs.h"
 #include "tools/lqimage/PixelType.h"
 
 namespace {

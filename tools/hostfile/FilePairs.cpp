@@ -1,4 +1,4 @@
-#include "tools/lqimage/FilePairs.h"
+#include "tools/hostfile/FilePairs.h"
 
 #include <algorithm>
 #include <system_error>
@@ -54,6 +54,14 @@ bool ListFilePairs(const fs::path& from, const fs::path& to, const std::string& 
         }
         pairs.push_back({file, made});
     }
+    return true;
+}
+
+bool IsOneFile(const FilePair& pair, std::string& error) {
+    std::error_code failure;
+    if (!fs::equivalent(pair.from, pair.to, failure) || failure)
+        return false;
+    error = pair.to.string() + ": is the file that is read; name another to write";
     return true;
 }
 

@@ -20,4 +20,8 @@ bool ListFilePairs(const std::filesystem::path& from, const std::filesystem::pat
                    const std::string& fromExtension, const std::string& toExtension,
                    std::vector<FilePair>& pairs, std::string& error);
 
+/// True, with an error, where writing the file `to` would destroy `from`, which is read: both names lead to
+/// one file, by whatever links.
+bool IsOneFile(const FilePair& pair, std::string& error);
+
 }  // namespace korvane::tools
