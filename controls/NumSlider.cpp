@@ -6,8 +6,9 @@
 #include <cwchar>
 #include <limits>
 
-#include "controls/Hundredths.h"
-#include "controls/NumSliderLayout.h"
+#include "controls/parts/Hundredths.h"
+#include "controls/parts/NumSliderLayout.h"
+#include "controls/parts/SharedImage.h"
 #include "engine/draw/SurfManager.h"
 #include "engine/text/FontManager.h"
 
@@ -27,17 +28,8 @@ int Saturated(std::int64_t number) {
     return static_cast<int>(std::clamp<std::int64_t>(number, Limits::min(), Limits::max()));
 }
 
-std::shared_ptr<CLQSurfHandle> SharedImage(const wchar_t* file) {
-    return std::make_shared<CLQSurfHandle>(CLQSurfManager::GetInstance()->CreateSurface(file, true));
-}
-
 int HeightOf(const std::shared_ptr<CLQSurfHandle>& image) {
     return image ? image->GetHeight() : 0;
-}
-
-void BlitWhole(CLQSurfHandle& target, const std::shared_ptr<CLQSurfHandle>& image, int x, int y) {
-    if (image)
-        target.BitBlt(*image, x, y, image->GetWidth(), image->GetHeight(), 0, 0);
 }
 
 }  // namespace
@@ -141,20 +133,20 @@ int CLQNumSlider::GetDocNum(float value) {
 void CLQNumSlider::SetShadowGnd() {
     m_pShadowUp.reset();
     m_pShadowDown.reset();
-    m_pShadowUp = SharedImage(L"NumberShadowUp.lqi");
-    m_pShadowDown = SharedImage(L"NumberShadowDown.lqi");
+    m_pShadowUp = korvane::LoadSharedImage(L"NumberShadowUp.lqi");
+    m_pShadowDown = korvane::LoadSharedImage(L"NumberShadowDown.lqi");
     Invalidate();
 }
 
 void CLQNumSlider::SetSeekUpGnd(const wchar_t* file) {
     m_pSeekUp.reset();
-    m_pSeekUp = SharedImage(file);
+    m_pSeekUp = korvane::LoadSharedImage(file);
     Invalidate();
 }
 
 void CLQNumSlider::SetSeekDownGnd(const wchar_t* file) {
     m_pSeekDown.reset();
-    m_pSeekDown = SharedImage(file);
+    m_pSeekDown = korvane::LoadSharedImage(file);
     Invalidate();
 }
 
@@ -330,7 +322,7 @@ void CLQNumSlider::Draw(CLQSurfHandle& target) {
     area.bottom = area.top + m_nHeight;
     if (HasValue()) {
         DrawNumbers(target, area);
-        BlitWhole(target, m_pLabel, area.left + wheel::kLabelLeft, area.top + wheel::kLabelTop);
+        korvane::BlitWhole(target, m_pLabel, area.left + wheel::kLabelLeft, area.top + wheel::kLabelTop);
     }
     DrawImages(target, area);
     if (m_pOwnerWnd)
@@ -387,8 +379,9 @@ void CLQNumSlider::DrawNumberText(CLQSurfHandle& target, const wchar_t* text, in
 }
 
 void CLQNumSlider::DrawImages(CLQSurfHandle& target, const _LQRect& area) {
-    BlitWhole(target, m_pShadowUp, area.left, area.top);
-    BlitWhole(target, m_pShadowDown, area.left, area.bottom - HeightOf(m_pShadowDown));
-    BlitWhole(target, m_pSeekUp, area.left + wheel::kSeekLeft, area.top + wheel::kSeekUpTop);
-    BlitWhole(target, m_pSeekDown, area.left + wheel::kSeekLeft, area.bottom - wheel::kSeekDownAboveBottom);
+    korvane::BlitWhole(target, m_pShadowUp, area.left, area.top);
+    korvane::BlitWhole(target, m_pShadowDown, area.left, area.bottom - HeightOf(m_pShadowDown));
+    korvane::BlitWhole(target, m_pSeekUp, area.left + wheel::kSeekLeft, area.top + wheel::kSeekUpTop);
+    korvane::BlitWhole(target, m_pSeekDown, area.left + wheel::kSeekLeft,
+                       area.bottom - wheel::kSeekDownAboveBottom);
 }

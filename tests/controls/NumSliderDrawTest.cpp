@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "controls/NumSliderLayout.h"
+#include "controls/parts/NumSliderLayout.h"
 
 #include "tests/controls/TestWheel.h"
 #include "tests/support/ReferenceImage.h"

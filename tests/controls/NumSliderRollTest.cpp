@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "controls/NumSliderLayout.h"
+#include "controls/parts/NumSliderLayout.h"
 #include "engine/window/Window.h"
 #include "platform/Simulation.h"
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "controls/NumSliderLayout.h"
+#include "controls/parts/NumSliderLayout.h"
 #include "engine/Korvane.h"
 
 #include "tests/controls/TestWheel.h"

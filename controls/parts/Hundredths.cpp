@@ -1,4 +1,4 @@
-#include "controls/Hundredths.h"
+#include "controls/parts/Hundredths.h"
 
 #include <limits>
 
