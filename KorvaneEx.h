@@ -11,3 +11,4 @@
 #include "sysinfo/MainApplication.h"
 #include "sysinfo/ShareMemLink.h"
 #include "sysinfo/SysInfo.h"
+#include "title/TitleDialog.h"
