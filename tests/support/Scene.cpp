@@ -5,6 +5,7 @@
 #include <random>
 #include <stdexcept>
 
+#include "platform/SharedMemory.h"
 #include "platform/Simulation.h"
 
 namespace korvane::test {
@@ -48,6 +49,8 @@ Scene::Scene(int width, int height) : root_(MakeScratchFolder()) {
 Scene::~Scene() {
     CLQScreen::GetInstance()->Close();
     UseSystemClock();
+    SetDeviceRoot(root_.string());
+    RemoveSharedMemory();
     std::error_code ignored;
     fs::remove_all(root_, ignored);
 }
