@@ -68,16 +68,22 @@ class KORVANEEX_API CLQTitleDialog : public CLQWindow {
     /// The state of the parking brake, 1 when nobody knows.
     unsigned char GetParkingStation();
 
+    /// Shows the play time at the end of the title, which gives way, or hides it, as at first.
     void EnablePlayTime(bool show);
     /// In pixels; a negative width counts as 0. 162 at first.
     void SetPlayTimeWidth(int width);
+    /// A null text counts as empty.
     void SetPlayTime(const wchar_t* text, bool scroll);
+    /// Whether it can be seen: false also while a traffic announcement stands in its place.
     bool IsPlayTimeShow();
 
+    /// The panel and the veil behind it, both hidden at first. The application shows them; a choice of a
+    /// source hides them.
     CLQGroupCtrl* GetShortCutControl();
     CLQGroupCtrl* GetShortCurShadow();
     /// Called with the button when the panel's back button is released; the panel stays open.
     void SetShortCutBackCallBack(void (*callback)(void*));
+    /// Makes the folder and those above it, unless it is there.
     void CreatConfigDir(std::wstring dir);
 
   private:
@@ -111,23 +117,28 @@ class KORVANEEX_API CLQTitleDialog : public CLQWindow {
     void OnBtnPressUp(void* ctrl);
     void PostMessageToMain(int msg, unsigned wParam, long lParam, bool send);
 
-    // The clock, the play time and the traffic text: TitleClock.cpp.
+    // The clock: TitleClock.cpp.
     void UpdateTime();
+    void ShowTime(CLQStatic& label, const std::wstring& time);
     void OnTimerUpdateTime(void*, int);
+
+    // PlayTime.cpp and TrafficText.cpp.
     /// Shares the width of the title, and what the cancel button leaves free, between title and play time.
     void LayOutPlayTime();
     void UpdateTAText();
 
-    // The panel.
-    void PrepareShortCutConfig();
+    // The panel: ShortcutPanel.cpp.
     void BuildShortCutPanel();
     void BuildShortCutShadow();
-    void ReadShortCutDefaultID();
-    void SetDefaultShortCutIcon();
-    void UpdateAllShortCutIcon();
     void SetShortCutBtnSurf(CLQButton* button, wchar_t* name);
     void SetShortCutBtnDisableState(CLQButton* button, int id);
     void OnShurtCutBtnPressUp(void* ctrl);
+
+    // What its buttons stand for: ShortcutConfig.cpp.
+    void ReadShortCutDefaultID();
+    void PrepareShortCutConfig();
+    void SetDefaultShortCutIcon();
+    void UpdateAllShortCutIcon();
 
     static constexpr int kShortCutCount = 5;
 
