@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 #include "platform/Export.h"
 #include "platform/coredll.h"
 #include "sysinfo/SysInfo.h"
@@ -36,3 +38,9 @@ struct KORVANEEX_API CLQShareMemLink {
     /// Empties the link. Always true.
     bool Unload();
 };
+
+static_assert(sizeof(CLQShareMemLink) == 12 * sizeof(void*) &&
+                  offsetof(CLQShareMemLink, pfnGetSysInfo) == sizeof(void*) &&
+                  offsetof(CLQShareMemLink, pfnGetThumbNail) == 9 * sizeof(void*) &&
+                  offsetof(CLQShareMemLink, pFallbackInfo) == 11 * sizeof(void*),
+              "the link's layout is fixed: it is part of classes that applications derive from");
