@@ -4,28 +4,64 @@ if(NOT RSVG_CONVERT)
   message(FATAL_ERROR "rsvg-convert is missing: install the Debian package librsvg2-bin")
 endif()
 
-# korvane_add_images(<target> <file.svg>...)
+# korvane_add_images(<target> [FRAME <frame.svg>] [PREFIX <text>] [STYLES <folder> STATES <state>...]
+#                    [FILES] <file.svg>...)
 #
-# Adds a target that converts each file, in its own size, into <name>.lqi in the device's image folder.
+# Adds a target that converts each file, in its own size, into <prefix><name>.lqi in the device's image folder.
+# With a frame, what is drawn in the file is put into the frame's empty element <g id="picture">, and the image
+# has the frame's size. With states, each makes an image <prefix><name>_<state>.lqi: the same drawing under the
+# style sheet <folder>/<state>.css, or as it is where there is none.
 function(korvane_add_images target)
-  set(image_dir "${KORVANE_DEVICE_DIR}/NandFlash/Application/Resource/Image")
-  set(png_dir "${CMAKE_CURRENT_BINARY_DIR}/${target}")
-  file(MAKE_DIRECTORY "${image_dir}" "${png_dir}")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "FRAME;PREFIX;STYLES" "STATES;FILES")
+  set(work_dir "${CMAKE_CURRENT_BINARY_DIR}/${target}")
+  file(MAKE_DIRECTORY "${work_dir}")
   set(images)
-  foreach(file IN LISTS ARGN)
+  foreach(file IN LISTS arg_UNPARSED_ARGUMENTS arg_FILES)
     get_filename_component(svg "${file}" ABSOLUTE)
     get_filename_component(name "${file}" NAME_WE)
-    add_custom_command(
-      OUTPUT "${image_dir}/${name}.lqi"
-      COMMAND "${RSVG_CONVERT}" --output "${png_dir}/${name}.png" "${svg}"
-      COMMAND lqimage encode "${png_dir}/${name}.png" "${image_dir}/${name}.lqi"
-      DEPENDS "${svg}" lqimage
-      BYPRODUCTS "${png_dir}/${name}.png"
-      COMMENT "Converting ${name}.svg"
-      VERBATIM)
-    list(APPEND images "${image_dir}/${name}.lqi")
+    set(name "${arg_PREFIX}${name}")
+    if(arg_FRAME)
+      get_filename_component(frame "${arg_FRAME}" ABSOLUTE)
+      set(framed "${work_dir}/${name}.svg")
+      set(script "${PROJECT_SOURCE_DIR}/cmake/FramePicture.cmake")
+      add_custom_command(
+        OUTPUT "${framed}"
+        COMMAND "${CMAKE_COMMAND}" -D "FRAME=${frame}" -D "PICTURE=${svg}" -D "OUTPUT=${framed}" -P "${script}"
+        DEPENDS "${svg}" "${frame}" "${script}"
+        COMMENT "Framing ${name}.svg"
+        VERBATIM)
+      set(svg "${framed}")
+    endif()
+    if(NOT arg_STATES)
+      _korvane_convert_image("${svg}" "${name}" "")
+    endif()
+    foreach(state IN LISTS arg_STATES)
+      get_filename_component(style "${arg_STYLES}/${state}.css" ABSOLUTE)
+      if(NOT EXISTS "${style}")
+        set(style "")
+      endif()
+      _korvane_convert_image("${svg}" "${name}_${state}" "${style}")
+    endforeach()
   endforeach()
   add_custom_target(${target} ALL DEPENDS ${images})
+endfunction()
+
+# Converts one file, under a style sheet unless its name is empty, and adds the image to the caller's list.
+function(_korvane_convert_image svg name style)
+  set(image_dir "${KORVANE_DEVICE_DIR}/NandFlash/Application/Resource/Image")
+  file(MAKE_DIRECTORY "${image_dir}")
+  set(png "${work_dir}/${name}.png")
+  set(image "${image_dir}/${name}.lqi")
+  add_custom_command(
+    OUTPUT "${image}"
+    COMMAND "${RSVG_CONVERT}" "$<$<BOOL:${style}>:--stylesheet=${style}>" --output "${png}" "${svg}"
+    COMMAND lqimage encode "${png}" "${image}"
+    DEPENDS "${svg}" ${style} lqimage
+    BYPRODUCTS "${png}"
+    COMMENT "Converting ${name}"
+    COMMAND_EXPAND_LISTS
+    VERBATIM)
+  set(images ${images} "${image}" PARENT_SCOPE)
 endfunction()
 
 # korvane_add_layouts(<target> <file.ini>...)
