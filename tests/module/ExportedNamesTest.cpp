@@ -5,6 +5,7 @@
 
 #include "module/MessageLoop.h"
 #include "module/SysBeep.h"
+#include "module/ThumbNail.h"
 #include "platform/Simulation.h"
 #include "platform/coredll.h"
 
@@ -44,6 +45,8 @@ TEST_F(ExportedNames, OfFunctionsArePlain) {
     EXPECT_EQ(Find(L"InitMessage"), reinterpret_cast<const void*>(&InitMessage));
     EXPECT_EQ(Find(L"WndDoModel"), reinterpret_cast<const void*>(&WndDoModel));
     EXPECT_EQ(Find(L"SysBeep"), reinterpret_cast<const void*>(&SysBeep));
+    EXPECT_EQ(Find(L"SetThumbNail"), reinterpret_cast<const void*>(&SetThumbNail));
+    EXPECT_EQ(Find(L"GetThumbNail"), reinterpret_cast<const void*>(&GetThumbNail));
 }
 
 TEST_F(ExportedNames, AreExact) {
