@@ -8,6 +8,7 @@
 #include "engine/Korvane.h"
 #include "module/MessageLoop.h"
 #include "module/SysBeep.h"
+#include "module/ThumbNail.h"
 #include "sysinfo/MainApplication.h"
 #include "sysinfo/ShareMemLink.h"
 #include "sysinfo/SysInfo.h"
