@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "engine/core/Message.h"
+
 namespace korvane::test {
 
 MainWindow::MainWindow(const wchar_t* title, const wchar_t* windowClass) {
@@ -15,9 +17,12 @@ MainWindow::MainWindow(const wchar_t* title, const wchar_t* windowClass) {
     SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 
-MainWindow::~MainWindow() {
+void MainWindow::Close() {
+    if (!handle_)
+        return;
     SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
     DestroyWindow(handle_);
+    handle_ = nullptr;
 }
 
 std::vector<MainWindow::Message> MainWindow::TakeMessages() {
@@ -32,7 +37,7 @@ LRESULT CALLBACK MainWindow::Procedure(HWND window, UINT message, WPARAM wParam,
     auto* const self = reinterpret_cast<MainWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (self && message == kMainKeyBeep)
         ++self->beeps_;
-    else if (self && message >= WM_USER)
+    else if (self && message >= WM_USER && message != kMsgSysInfoChanged)
         self->messages_.push_back({message, wParam, lParam});
     return DefWindowProcW(window, message, wParam, lParam);
 }

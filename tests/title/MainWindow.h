@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ostream>
 #include <vector>
 
 #include "sysinfo/MainApplication.h"
@@ -10,9 +11,12 @@ namespace korvane::test {
 class MainWindow {
   public:
     explicit MainWindow(const wchar_t* title = kMainWindowName, const wchar_t* windowClass = kMainWindowName);
-    ~MainWindow();
+    ~MainWindow() { Close(); }
     MainWindow(const MainWindow&) = delete;
     MainWindow& operator=(const MainWindow&) = delete;
+
+    /// Ends it, as when the main application ends.
+    void Close();
 
     struct Message {
         UINT code;
@@ -21,9 +25,12 @@ class MainWindow {
         bool operator==(const Message& other) const {
             return code == other.code && wParam == other.wParam && lParam == other.lParam;
         }
+        friend std::ostream& operator<<(std::ostream& stream, const Message& message) {
+            return stream << message.code << '(' << message.wParam << ", " << message.lParam << ')';
+        }
     };
 
-    /// What came since the last call, but for the beeps. Messages are posted: pump before.
+    /// What was asked since the last call, but for the beeps. Messages are posted: pump before.
     std::vector<Message> TakeMessages();
     /// The beeps since the last call.
     int TakeBeeps();
