@@ -1,0 +1,104 @@
+#include <string>
+#include <vector>
+
+#include "sysinfo/SysInfoFields.h"
+
+#include "tests/service/ServiceDevice.h"
+
+namespace korvane::test {
+namespace {
+
+constexpr UINT kSysInfoChanged = 1191;
+
+/// A device with a screen and the main application, both in this process.
+class Announcement : public ServiceDevice {
+  protected:
+    Announcement()
+        : screen(Open(L"KorvaneScreen", L"Head unit")), main(Open(L"NavigRecive", L"NavigRecive")) {}
+    ~Announcement() override {
+        DestroyWindow(screen);
+        DestroyWindow(main);
+    }
+
+    static HWND Open(const wchar_t* windowClass, const wchar_t* title) {
+        WNDCLASSW description = {};
+        description.lpfnWndProc = &DefWindowProcW;
+        description.lpszClassName = windowClass;
+        RegisterClassW(&description);
+        return CreateWindowExW(0, windowClass, title, WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr,
+                               nullptr);
+    }
+
+    /// The items that a window was told of since the last call.
+    static std::vector<int> ItemsAt(HWND window) {
+        std::vector<int> items;
+        MSG msg = {};
+        while (PeekMessageW(&msg, window, kSysInfoChanged, kSysInfoChanged, PM_REMOVE)) {
+            EXPECT_EQ(msg.lParam, 0);
+            items.push_back(static_cast<int>(msg.wParam));
+        }
+        return items;
+    }
+
+    using Items = std::vector<int>;
+
+    HWND screen;
+    HWND main;
+};
+
+TEST_F(Announcement, TellsTheScreenAndTheMainApplicationOfEachItem) {
+    for (const SysInfoField& field : kSysInfoFields) {
+        ASSERT_EQ(setSetupValue(field.name, 1), 1);
+        EXPECT_EQ(ItemsAt(screen), Items{field.item});
+        EXPECT_EQ(ItemsAt(main), Items{field.item});
+    }
+}
+
+TEST_F(Announcement, ComesAfterTheChange) {
+    EXPECT_EQ(setSetupValue(L"afState", 1), 1);
+    EXPECT_EQ(setSetupValue(L"afState", 2), 1);
+    EXPECT_EQ(getSysInfo()->afState, 2);
+    EXPECT_EQ(ItemsAt(screen), (Items{10, 10}));
+}
+
+TEST_F(Announcement, IsNotMadeOfAValueThatIsThereAlready) {
+    ASSERT_EQ(setSetupValue(L"mute", 1), 1);
+    ASSERT_EQ(setSetupValue(L"language", 5), 1);
+    EXPECT_EQ(ItemsAt(screen), (Items{5, 17}));
+    EXPECT_EQ(setSetupValue(L"mute", 1), 1);
+    EXPECT_EQ(setSetupValue(L"language", 5), 1);
+    EXPECT_EQ(setSetupValue(L"gps", 0), 1);
+    EXPECT_EQ(ItemsAt(screen), Items());
+}
+
+TEST_F(Announcement, IsNotMadeOfWhatWasRefused) {
+    EXPECT_EQ(setSetupValue(L"mute", 256), 0);
+    std::filesystem::create_directories(SetupFile());
+    EXPECT_EQ(setSetupValue(L"language", 5), 0);
+    EXPECT_EQ(ItemsAt(screen), Items());
+    EXPECT_EQ(ItemsAt(main), Items());
+}
+
+TEST_F(Announcement, IsNotMadeOfSetupValues) {
+    EXPECT_EQ(setSetupValue(L"volume", 5), 1);
+    EXPECT_EQ(setSetupValueStr(L"station", L"Radio"), 1);
+    EXPECT_EQ(ItemsAt(screen), Items());
+}
+
+TEST_F(Announcement, LeavesOtherWindowsAlone) {
+    const HWND other = Open(L"Other", L"NavigRecive");
+    EXPECT_EQ(setSetupValue(L"mute", 1), 1);
+    EXPECT_EQ(ItemsAt(other), Items());
+    EXPECT_EQ(ItemsAt(screen), Items{5});
+    DestroyWindow(other);
+}
+
+TEST_F(Announcement, NeedsNobodyToListen) {
+    DestroyWindow(screen);
+    DestroyWindow(main);
+    EXPECT_EQ(setSetupValue(L"mute", 1), 1);
+    EXPECT_EQ(getSysInfo()->mute, 1);
+}
+
+}  // namespace
+}  // namespace korvane::test
