@@ -1,11 +1,10 @@
 #include "demo/headunit/RadioScreen.h"
 
+#include "demo/headunit/Captions.h"
+
 namespace korvane::demo {
 
 namespace {
-
-constexpr wchar_t kRestHint[] = L"Swipe the wheel to seek";
-constexpr int kClockPeriodMs = 5000;
 
 constexpr int kWheelLeft = 248;
 constexpr int kWheelTop = 118;
@@ -28,26 +27,14 @@ void CreateLabel(CLQStatic& label, const _LQRect& place, int size, int style, _L
 
 bool RadioScreen::OnInit() {
     SetBkgSurf(L"RadioBkg.lqi");
-    CreateStrip();
     CreateWheel();
     CreateBandButton();
     CreateBandSlider();
     CreateHint();
+    sourcesButton_.Place(620, 172);
+    AddChild(&sourcesButton_);
     ShowBand();
     return true;
-}
-
-void RadioScreen::CreateStrip() {
-    CreateLabel(title_, {28, 400, 0, 56}, 28, eText_Left | eText_VCenter, {255, 255, 255, 255});
-    title_.SetText(L"Radio");
-    AddChild(&title_);
-
-    CreateLabel(clock_, {600, 772, 0, 56}, 28, eText_Right | eText_VCenter, {255, 255, 255, 255});
-    AddChild(&clock_);
-    OnClock(nullptr, 0);
-    clockTimer_.SetTimer(kClockPeriodMs);
-    clockTimer_.SetCallBack(this, &RadioScreen::OnClock);
-    clockTimer_.StartTimer();
 }
 
 void RadioScreen::CreateWheel() {
@@ -58,11 +45,9 @@ void RadioScreen::CreateWheel() {
     wheel_.SetSeekDownGnd(L"SeekDown.lqi");
     // The three callbacks share one context.
     wheel_.SetMoveUpCallBack(
-        [](void* screen, void*) { static_cast<RadioScreen*>(screen)->Seek(L"Seeking up, touch to stop"); },
-        this);
+        [](void* screen, void*) { static_cast<RadioScreen*>(screen)->Seek(kCaptionSeekingUp); }, this);
     wheel_.SetMoveDownCallBack(
-        [](void* screen, void*) { static_cast<RadioScreen*>(screen)->Seek(L"Seeking down, touch to stop"); },
-        this);
+        [](void* screen, void*) { static_cast<RadioScreen*>(screen)->Seek(kCaptionSeekingDown); }, this);
     wheel_.SetMoveStopCallBack([](void* screen, void*) { static_cast<RadioScreen*>(screen)->StopSeeking(); },
                                this);
     wheel_.AddCallBack(kEventValueChanged, this, &RadioScreen::OnWheelStep);
@@ -100,7 +85,7 @@ void RadioScreen::CreateBandSlider() {
 
 void RadioScreen::CreateHint() {
     CreateLabel(hint_, {200, 600, 430, 466}, 22, eText_HCenter | eText_VCenter, Grey());
-    hint_.SetText(kRestHint);
+    hint_.SetLangID(kCaptionSwipeToSeek);
     AddChild(&hint_);
 }
 
@@ -125,8 +110,8 @@ void RadioScreen::Tune(float frequency) {
     bandSlider_.SetValue(step);
 }
 
-void RadioScreen::Seek(const wchar_t* hint) {
-    hint_.SetText(hint);
+void RadioScreen::Seek(int hint) {
+    hint_.SetLangID(hint);
     wheel_.StartMove();
 }
 
@@ -134,7 +119,7 @@ void RadioScreen::StopSeeking() {
     wheel_.MoveStop();
     // Settles the rows, which stopped in the middle of a step, on the last frequency that was reached.
     wheel_.SetVaule(Frequency());
-    hint_.SetText(kRestHint);
+    hint_.SetLangID(kCaptionSwipeToSeek);
 }
 
 void RadioScreen::OnBandButton(CLQButton*) {
@@ -150,10 +135,6 @@ void RadioScreen::OnWheelStep(CLQNumSlider*, float* frequency) {
 void RadioScreen::OnBandSlider(CLQSliderCtrl*, int* step) {
     StopSeeking();
     Tune(CurrentBand().FrequencyOf(*step));
-}
-
-void RadioScreen::OnClock(void*, int) {
-    clock_.SetText(CLQDateTime::now().toTimeString(L"HH:mm").c_str());
 }
 
 }  // namespace korvane::demo

@@ -7,6 +7,7 @@
 #include "KorvaneEx.h"
 
 #include "demo/headunit/Band.h"
+#include "demo/headunit/SourcesButton.h"
 
 namespace korvane::demo {
 
@@ -14,14 +15,14 @@ namespace korvane::demo {
 /// slider that shows where in the band the radio is and tunes by hand.
 class RadioScreen : public CLQWindow {
   public:
-    static constexpr int kWidth = 800;
-    static constexpr int kHeight = 480;
-
     std::wstring GetDialogName() override { return L"Radio"; }
     bool OnInit() override;
 
+    /// Ends a seek, on the frequency that it has reached.
+    void StopSeeking();
+    CLQButton& GetSourcesButton() { return sourcesButton_; }
+
   private:
-    void CreateStrip();
     void CreateWheel();
     void CreateBandButton();
     void CreateBandSlider();
@@ -29,13 +30,11 @@ class RadioScreen : public CLQWindow {
 
     void ShowBand();
     void Tune(float frequency);
-    void Seek(const wchar_t* hint);
-    void StopSeeking();
+    void Seek(int hint);
 
     void OnBandButton(CLQButton* button);
     void OnWheelStep(CLQNumSlider* wheel, float* frequency);
     void OnBandSlider(CLQSliderCtrl* slider, int* step);
-    void OnClock(void*, int);
 
     struct Station {
         Band band;
@@ -48,15 +47,13 @@ class RadioScreen : public CLQWindow {
     std::array<Station, 2> stations_ = {Station{MakeFm(), MakeFm().start}, Station{MakeAm(), MakeAm().start}};
     std::size_t current_ = 0;
 
-    CLQStatic title_;
-    CLQStatic clock_;
-    CLQTimer clockTimer_;
     CLQNumSlider wheel_;
     CLQButton bandButton_;
     CLQSliderCtrl bandSlider_;
     CLQStatic lowest_;
     CLQStatic highest_;
     CLQStatic hint_;
+    SourcesButton sourcesButton_;
 };
 
 }  // namespace korvane::demo

@@ -1,36 +1,23 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "demo/headunit/TourScript.h"
+#include "tools/systemservice/SystemService.h"
+
 namespace korvane::demo {
 
-/// One step of a scripted tour.
-struct TourStep {
-    enum class Action { Press, Move, Release, Wait, Picture };
-
-    static TourStep Press(int x, int y) { return {Action::Press, x, y, 0, ""}; }
-    static TourStep Move(int x, int y) { return {Action::Move, x, y, 0, ""}; }
-    static TourStep Release(int x, int y) { return {Action::Release, x, y, 0, ""}; }
-    static TourStep Wait(unsigned ms) { return {Action::Wait, 0, 0, ms, ""}; }
-    static TourStep Picture(const char* name) { return {Action::Picture, 0, 0, 0, name}; }
-
-    Action action;
-    int x;  ///< where the finger is, in screen pixels
-    int y;
-    unsigned ms;
-    const char* name;  ///< of the picture
-};
-
-/// Plays a script on the open screen, in virtual time: the finger's touches go the way of real ones, and a
-/// picture shows what the screen shows at that moment.
+/// Plays a script on the open screen, in virtual time: the finger's touches go the way of real ones, changes
+/// of the system record go through the service, and a picture shows what the screen shows at that moment.
 ///
 /// The player works in the waits of the message loop and ends the loop with its last step.
 class Tour {
   public:
     /// Pictures go into `folder`, numbered in their order; a script of one picture writes it to `file`.
-    static Tour IntoFolder(std::vector<TourStep> steps, const std::string& folder);
+    static Tour IntoFolder(const TourScript& script, const std::string& folder);
     static Tour IntoFile(const std::string& file);
 
     /// Takes over the clock, which stands at 10:08 on a spring morning, and the loop's waits. The tour stays
@@ -47,6 +34,7 @@ class Tour {
     bool LetTimePass(unsigned ms);
     void TakePicture(const std::string& name);
 
+    std::unique_ptr<tools::SystemService> service_;
     std::vector<TourStep> steps_;
     std::string folder_;
     std::string file_;
@@ -55,8 +43,5 @@ class Tour {
     std::vector<std::string> pictures_;
     std::string failure_;
 };
-
-/// What the head unit shows of itself.
-std::vector<TourStep> RadioTour();
 
 }  // namespace korvane::demo

@@ -9,12 +9,21 @@
 #include "platform/Display.h"
 #include "platform/Simulation.h"
 
-#include "demo/headunit/RadioScreen.h"
+#include "demo/headunit/HeadUnit.h"
+#include "demo/headunit/HeadUnitTour.h"
+#include "demo/headunit/RemoteControl.h"
+#include "demo/headunit/ScratchDevice.h"
 #include "demo/headunit/Tour.h"
+#include "demo/mainapp/MainApplication.h"
+#include "tools/commandline/ScreenSize.h"
+#include "tools/commandline/WrongUsage.h"
 
 namespace {
 
-using korvane::demo::RadioScreen;
+using korvane::demo::HeadUnit;
+using korvane::demo::MainApplication;
+using korvane::demo::RemoteControl;
+using korvane::demo::ScratchDevice;
 using korvane::demo::Tour;
 
 /// What the program ends with.
@@ -24,8 +33,7 @@ constexpr wchar_t kTitle[] = L"KorvaneEx head unit";
 
 struct Options {
     std::string display = "sdl";
-    int width = RadioScreen::kWidth;
-    int height = RadioScreen::kHeight;
+    korvane::tools::ScreenSize size;
     std::string deviceRoot;
     std::string tourFolder;
     std::string screenshot;
@@ -35,35 +43,17 @@ void Complain(const std::string& text) {
     std::fprintf(stderr, "headunit: %s\n", text.c_str());
 }
 
-/// Reads "800x480"; what is wrong with the text, or nothing.
-std::string ParseSize(const std::string& text, int& width, int& height) {
-    int end = 0;
-    if (std::sscanf(text.c_str(), "%9dx%9d%n", &width, &height, &end) != 2 ||
-        static_cast<std::size_t>(end) != text.size() || width <= 0 || height <= 0)
-        return "is not a size such as 800x480";
-    constexpr int kExtent = korvane::kMaxSurfaceExtent;
-    constexpr int kPixels = korvane::kMaxSurfacePixels;
-    if (width > kExtent || height > kExtent || width > kPixels / height)
-        return "is too large: a screen has at most " + std::to_string(kExtent) + " pixels a side and " +
-               std::to_string(kPixels) + " in all";
-    return {};
-}
-
-std::string DescribeWrongUsage(const CLI::App* app, const CLI::Error& error) {
-    return "headunit: " + CLI::FailureMessage::simple(app, error);
-}
-
 /// Fills in the options; the exit status when there is nothing more to do.
 std::optional<int> ReadOptions(int argc, char** argv, Options& options) {
-    CLI::App app("A head unit's radio, on a window of the desktop, on a device's display or off-screen.");
-    app.failure_message(DescribeWrongUsage);
+    CLI::App app("A head unit, on a window of the desktop, on a device's display or off-screen.", "headunit");
+    app.failure_message(korvane::tools::DescribeWrongUsage);
     auto* display =
         app.add_option("--display", options.display, "Where it is shown: sdl (a window) or memory (nowhere)")
             ->capture_default_str();
     app.add_option_function<std::string>(
            "--size",
            [&options](const std::string& text) {
-               const std::string wrong = ParseSize(text, options.width, options.height);
+               const std::string wrong = korvane::tools::ParseScreenSize(text, options.size);
                if (!wrong.empty())
                    throw CLI::ValidationError("--size", "'" + text + "' " + wrong);
            },
@@ -96,38 +86,68 @@ bool MakeFolder(const std::string& folder) {
     return std::filesystem::is_directory(folder, error);
 }
 
-/// Runs the radio until it is closed or the tour has ended.
-int RunRadio(const Options& options, Tour* tour) {
-    InitMessage();
-    if (!IsFileExist(korvane::ResourcePath(korvane::ResourceKind::Image, L"RadioBkg.lqi"))) {
-        Complain(korvane::DeviceRoot() +
-                 ": holds none of the head unit's images; name another with --device-root");
+bool HasImages() {
+    if (IsFileExist(korvane::ResourcePath(korvane::ResourceKind::Image, L"RadioBkg.lqi")))
+        return true;
+    Complain(korvane::DeviceRoot() +
+             ": holds none of the head unit's images; name another with --device-root");
+    return false;
+}
+
+/// Puts the head unit in the middle of the open screen.
+void Create(HeadUnit& headUnit, const Options& options) {
+    headUnit.Create((options.size.width - HeadUnit::kWidth) / 2,
+                    (options.size.height - HeadUnit::kHeight) / 2);
+}
+
+int RunOnDisplay(const Options& options) {
+    if (RemoteControl::IsTaken()) {
+        Complain("a head unit is running on this device already");
         return kFailure;
     }
-    if (tour)
-        tour->Start();
-
     CLQScreen* screen = CLQScreen::GetInstance();
-    const std::string display = tour ? "memory" : options.display;
-    if (!screen->Open(display.c_str(), options.width, options.height, kTitle)) {
-        Complain("cannot open the display \"" + display + "\": " + korvane::DisplayFailure());
+    if (!screen->Open(options.display.c_str(), options.size.width, options.size.height, kTitle)) {
+        Complain("cannot open the display \"" + options.display + "\": " + korvane::DisplayFailure());
         return kNoDisplay;
     }
     {
-        RadioScreen radio;
-        radio.Create((options.width - RadioScreen::kWidth) / 2, (options.height - RadioScreen::kHeight) / 2,
-                     RadioScreen::kWidth, RadioScreen::kHeight);
-        radio.OnInit();
+        // Unless it runs in a process of its own.
+        MainApplication mainApplication(MainApplication::KeyBeep::Sounding);
+        mainApplication.Start();
+        HeadUnit headUnit;
+        Create(headUnit, options);
+        RemoteControl remote;
+        remote.Open();
+        // Whoever started the program can wait for this line.
+        std::puts("headunit: ready");
+        std::fflush(stdout);
         WndDoModel();
     }
     screen->Close();
     return kSuccess;
 }
 
+/// Runs off-screen, on a device of its own, so that nothing else shows in the pictures.
 int RunTour(const Options& options, Tour& tour) {
-    const int status = RunRadio(options, &tour);
-    if (status != kSuccess)
-        return status;
+    ScratchDevice device;
+    if (!device.Enter()) {
+        Complain("cannot make a folder for temporary files");
+        return kFailure;
+    }
+    tour.Start();
+    CLQScreen* screen = CLQScreen::GetInstance();
+    if (!screen->Open("memory", options.size.width, options.size.height, kTitle)) {
+        Complain(std::string("cannot open the screen: ") + korvane::DisplayFailure());
+        return kNoDisplay;
+    }
+    {
+        MainApplication mainApplication(MainApplication::KeyBeep::Silent);
+        mainApplication.Start();
+        HeadUnit headUnit;
+        Create(headUnit, options);
+        WndDoModel();
+    }
+    screen->Close();
     if (!tour.Failure().empty()) {
         Complain(tour.Failure());
         return kFailure;
@@ -145,18 +165,21 @@ int main(int argc, char** argv) {
         return *status;
     if (!options.deviceRoot.empty())
         korvane::SetDeviceRoot(options.deviceRoot);
+    InitMessage();
+    if (!HasImages())
+        return kFailure;
 
     if (!options.tourFolder.empty()) {
         if (!MakeFolder(options.tourFolder)) {
             Complain(options.tourFolder + ": cannot make this folder");
             return kFailure;
         }
-        Tour tour = Tour::IntoFolder(korvane::demo::RadioTour(), options.tourFolder);
+        Tour tour = Tour::IntoFolder(korvane::demo::HeadUnitTour(), options.tourFolder);
         return RunTour(options, tour);
     }
     if (!options.screenshot.empty()) {
         Tour tour = Tour::IntoFile(options.screenshot);
         return RunTour(options, tour);
     }
-    return RunRadio(options, nullptr);
+    return RunOnDisplay(options);
 }

@@ -1,0 +1,122 @@
+#include "demo/headunit/HeadUnitTour.h"
+
+namespace korvane::demo {
+
+namespace {
+
+constexpr int kWheelX = 340;
+constexpr unsigned kTickMs = 50;
+constexpr unsigned kStepMs = 200;
+
+constexpr int kStripY = 30;
+constexpr int kBackX = 100;
+constexpr int kTrafficCancelX = 558;
+constexpr int kZoneX = 617;
+constexpr int kGuideX = 667;
+constexpr unsigned kFlashMs = 500;
+constexpr unsigned kNoticeMs = 3500;
+
+constexpr int kSourcesX = 688;
+constexpr int kSourcesY = 224;
+constexpr int kShortcut2X = 244;
+constexpr int kShortcutY = 137;
+constexpr int kPanelBackX = 400;
+constexpr int kPanelBackY = 300;
+constexpr unsigned kMinuteMs = 60000;
+
+void SwipeUp(TourScript& tour) {
+    tour.Press(kWheelX, 280).Move(kWheelX, 220).Release(kWheelX, 160);
+}
+
+void SwipeDown(TourScript& tour) {
+    tour.Press(kWheelX, 160).Release(kWheelX, 280);
+}
+
+void StopWheel(TourScript& tour) {
+    tour.Touch(kWheelX, 224);
+}
+
+void TouchBand(TourScript& tour) {
+    tour.Touch(112, 224);
+}
+
+void ShowFm(TourScript& tour) {
+    tour.Picture("fm");
+    // Step by step, with a picture at a quarter of a step.
+    SwipeUp(tour);
+    tour.Wait(kTickMs).Picture("fm-swiped-up");
+    tour.Wait(kStepMs * 5).Picture("fm-seeking-up");
+    StopWheel(tour);
+    tour.Picture("fm-stopped");
+    // The integer column rolls along where the fraction carries.
+    tour.Press(387, 408).Move(430, 408).Picture("fm-tuning-by-hand").Release(430, 408);
+    tour.Picture("fm-tuned-by-hand");
+    SwipeUp(tour);
+    tour.Wait(kStepMs + kTickMs).Picture("fm-carry");
+    StopWheel(tour);
+    // At the end of the band the wheel goes on at the other end.
+    tour.Press(430, 408).Move(790, 408).Release(790, 408).Picture("fm-upper-end");
+    SwipeUp(tour);
+    tour.Wait(kStepMs).Picture("fm-wrapped").Wait(kStepMs + 2 * kTickMs);
+    StopWheel(tour);
+    SwipeDown(tour);
+    tour.Wait(3 * kTickMs).Picture("fm-swiped-down");
+    tour.Wait(kStepMs * 4).Picture("fm-wrapped-down");
+    StopWheel(tour);
+}
+
+void ShowAm(TourScript& tour) {
+    tour.Press(112, 224).Picture("band-pressed").Release(112, 224).Picture("am");
+    SwipeUp(tour);
+    tour.Wait(2 * kTickMs).Picture("am-swiped-up");
+    tour.Wait(2 * kStepMs).Picture("am-seeking-up");
+    StopWheel(tour);
+    tour.Picture("am-stopped");
+    TouchBand(tour);
+    tour.Picture("fm-again");
+}
+
+void ShowStrip(TourScript& tour) {
+    tour.Set(L"mute", 1).Set(L"btState", 2).Set(L"regOn", 1).Picture("strip-muted-on-the-phone");
+    // AF flashes while it searches.
+    tour.Set(L"afState", 2).Wait(kFlashMs).Picture("strip-af-flashes").Wait(kFlashMs);
+    tour.Picture("strip-af-flashes-on").Set(L"afState", 1);
+    tour.Set(L"mute", 0).Set(L"btState", 1).Set(L"clock24h", 0).Picture("strip-12-hour-clock");
+    tour.Set(L"clock24h", 1).Set(L"taActive", 1).Picture("strip-traffic");
+    tour.Set(L"language", 5).Picture("strip-traffic-german");
+    tour.Press(kTrafficCancelX, kStripY)
+        .Picture("strip-traffic-cancel-pressed")
+        .Release(kTrafficCancelX, kStripY);
+    tour.Picture("german").Set(L"language", 16).Picture("japanese").Set(L"language", 0);
+    tour.Touch(kZoneX, kStripY).Picture("strip-rear-zone").Wait(kNoticeMs).Picture("strip-rear-zone-later");
+    tour.Touch(kZoneX, kStripY).Wait(kNoticeMs);
+    tour.Set(L"btState", 0).Set(L"btState", 1).Picture("strip-phone-connected").Wait(kNoticeMs);
+    tour.Set(L"guideAvail", 0).Set(L"frontRearAvail", 0).Set(L"gps", 0).Set(L"rdsIconMask", 0);
+    tour.Picture("strip-bare").Set(L"guideAvail", 1).Set(L"frontRearAvail", 1).Set(L"gps", 1);
+    tour.Set(L"rdsIconMask", 31);
+}
+
+void ShowSources(TourScript& tour) {
+    tour.Press(kSourcesX, kSourcesY).Picture("sources-pressed").Release(kSourcesX, kSourcesY);
+    tour.Picture("shortcuts").Press(kShortcut2X, kShortcutY).Picture("shortcuts-disc-pressed");
+    tour.Release(kShortcut2X, kShortcutY).Picture("disc").Wait(kMinuteMs + 5000).Picture("disc-plays");
+    tour.Set(L"discAudioPresent", 0).Touch(kSourcesX, kSourcesY).Picture("shortcuts-no-disc");
+    tour.Press(kPanelBackX, kPanelBackY).Picture("shortcuts-back-pressed").Release(kPanelBackX, kPanelBackY);
+    tour.Press(kBackX, kStripY).Picture("back-pressed").Release(kBackX, kStripY).Picture("radio-again");
+    tour.Press(kGuideX, kStripY).Picture("guide-pressed").Release(kGuideX, kStripY).Picture("navigation");
+    tour.Set(L"source", 12).Picture("telephone").Set(L"source", 8).Picture("player");
+    tour.Set(L"source", 37).Picture("dab");
+}
+
+}  // namespace
+
+TourScript HeadUnitTour() {
+    TourScript tour;
+    ShowFm(tour);
+    ShowAm(tour);
+    ShowStrip(tour);
+    ShowSources(tour);
+    return tour;
+}
+
+}  // namespace korvane::demo

@@ -1,0 +1,83 @@
+#include "demo/headunit/RemoteControl.h"
+
+#include <vector>
+
+#include "platform/Files.h"
+#include "platform/Simulation.h"
+
+#include "tools/headunitctl/HeadUnitWindow.h"
+
+namespace korvane::demo {
+
+namespace {
+
+/// More than any sequence of touches causes; a bound, should messages come without end.
+constexpr int kMostWaiting = 10000;
+
+/// Handles what waits in the queue, so that a picture shows what was done before it was asked for.
+void CatchUp() {
+    MSG msg;
+    for (int i = 0; i < kMostWaiting && PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE); ++i) {
+        if (msg.message == WM_QUIT) {
+            PostQuitMessage(static_cast<int>(msg.wParam));
+            return;
+        }
+        TranslateMessage(&msg);
+        DispatchMessageW(&msg);
+    }
+}
+
+bool SavePicture(const wchar_t* file) {
+    CLQSurfHandle& screen = CLQScreen::GetInstance()->GetScreenSurfHandle();
+    std::vector<unsigned char> bytes(static_cast<std::size_t>(screen.CalcStoreMemSize()));
+    return !bytes.empty() &&
+           screen.SaveSurface(bytes.data(), static_cast<int>(bytes.size())) == eError_None &&
+           CreateDir(L"\\Temp") && ReplaceFileAtomically(file, bytes.data(), bytes.size());
+}
+
+LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    CLQScreen* const screen = CLQScreen::GetInstance();
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_MOUSEMOVE:
+        case WM_LBUTTONUP:
+            PostInput(screen->GetHWND(), message, wParam, lParam);
+            return 0;
+        case tools::kRequestScreenSize:
+            return MAKELPARAM(screen->GetWidth(), screen->GetHeight());
+        case tools::kRequestPicture:
+            CatchUp();
+            return SavePicture(tools::PictureFile(wParam).c_str());
+        default:
+            return DefWindowProcW(window, message, wParam, lParam);
+    }
+}
+
+bool RegisterRemoteClass() {
+    static const bool registered = [] {
+        WNDCLASSW description = {};
+        description.lpfnWndProc = &WindowProc;
+        description.lpszClassName = tools::kHeadUnitClass;
+        return RegisterClassW(&description) != 0;
+    }();
+    return registered;
+}
+
+}  // namespace
+
+RemoteControl::~RemoteControl() {
+    if (window_)
+        DestroyWindow(window_);
+}
+
+bool RemoteControl::IsTaken() {
+    return FindWindowW(tools::kHeadUnitClass, nullptr) != nullptr;
+}
+
+void RemoteControl::Open() {
+    if (!window_ && RegisterRemoteClass())
+        window_ = CreateWindowExW(0, tools::kHeadUnitClass, tools::kHeadUnitClass, WS_POPUP, 0, 0, 0, 0,
+                                  nullptr, nullptr, nullptr, nullptr);
+}
+
+}  // namespace korvane::demo

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <filesystem>
+
+namespace korvane::demo {
+
+/// A device of its own for one run: programs, pictures and texts of the present device, settings as from the
+/// factory, a fresh system record, and nobody else on it. It takes the place of the present device; its files
+/// are removed with the object.
+class ScratchDevice {
+  public:
+    ScratchDevice() = default;
+    ScratchDevice(const ScratchDevice&) = delete;
+    ScratchDevice& operator=(const ScratchDevice&) = delete;
+    ~ScratchDevice();
+
+    /// False when its folder cannot be made; the device is then the present one.
+    bool Enter();
+
+  private:
+    std::filesystem::path root_;
+};
+
+}  // namespace korvane::demo

@@ -1,0 +1,44 @@
+#include "demo/headunit/Source.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "demo/headunit/Captions.h"
+
+namespace korvane::demo {
+
+namespace {
+
+constexpr int kNoHint = 0;
+constexpr bool kTimed = true;
+constexpr bool kUntimed = false;
+
+constexpr Source kSources[] = {
+    {kRadioSource, kCaptionTuner, kNoHint, L"source_tuner.lqi", SourceScreenKind::Radio, kUntimed},
+    {4, kCaptionDiscAudio, kCaptionNowPlaying, L"source_disc_audio.lqi", SourceScreenKind::Other, kTimed},
+    {5, kCaptionDiscVideo, kCaptionNowPlaying, L"source_disc_video.lqi", SourceScreenKind::Other, kTimed},
+    {6, kCaptionUsbAudio, kCaptionNowPlaying, L"source_usb_audio.lqi", SourceScreenKind::Other, kTimed},
+    {7, kCaptionUsbVideo, kCaptionNowPlaying, L"source_usb_video.lqi", SourceScreenKind::Other, kTimed},
+    {8, kCaptionIpodAudio, kCaptionNowPlaying, L"source_ipod_audio.lqi", SourceScreenKind::Other, kTimed},
+    {9, kCaptionIpodVideo, kCaptionNowPlaying, L"source_ipod_video.lqi", SourceScreenKind::Other, kTimed},
+    {11, kCaptionBtAudio, kCaptionNowPlaying, L"source_bt_audio.lqi", SourceScreenKind::Other, kTimed},
+    {12, kCaptionTelephone, kCaptionReadyForCalls, L"source_telephone.lqi", SourceScreenKind::Other,
+     kUntimed},
+    {13, kCaptionAux1, kCaptionNowPlaying, L"source_aux1.lqi", SourceScreenKind::Other, kUntimed},
+    {14, kCaptionAux2, kCaptionNowPlaying, L"source_aux2.lqi", SourceScreenKind::Other, kUntimed},
+    {15, kCaptionUsbCamera, kCaptionNoPicture, L"source_usb_camera.lqi", SourceScreenKind::Other, kUntimed},
+    {17, kCaptionNavi, kCaptionNoNavigation, L"source_navi.lqi", SourceScreenKind::Other, kUntimed},
+    {18, kCaptionTv, kCaptionNoPicture, L"source_tv.lqi", SourceScreenKind::Other, kUntimed},
+    {35, kCaptionAudioOff, kCaptionAudioIsOff, L"source_audio_off.lqi", SourceScreenKind::Other, kUntimed},
+    {37, kCaptionDab, kNoHint, L"source_dab.lqi", SourceScreenKind::Radio, kUntimed},
+};
+
+}  // namespace
+
+const Source* FindSource(int id) {
+    const auto* const found = std::find_if(std::begin(kSources), std::end(kSources),
+                                           [id](const Source& source) { return source.id == id; });
+    return found == std::end(kSources) ? nullptr : found;
+}
+
+}  // namespace korvane::demo

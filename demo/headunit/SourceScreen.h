@@ -1,0 +1,27 @@
+#pragma once
+
+#include "KorvaneEx.h"
+
+#include "demo/headunit/SourcesButton.h"
+
+namespace korvane::demo {
+
+struct Source;
+
+/// The screen of a source that has none of its own: its picture, its name and a hint.
+class SourceScreen : public CLQWindow {
+  public:
+    std::wstring GetDialogName() override { return L"Source"; }
+    bool OnInit() override;
+
+    void ShowSource(const Source& source);
+    CLQButton& GetSourcesButton() { return sourcesButton_; }
+
+  private:
+    CLQImageView picture_;
+    CLQStatic caption_;
+    CLQStatic hint_;
+    SourcesButton sourcesButton_;
+};
+
+}  // namespace korvane::demo

@@ -1,0 +1,99 @@
+#include "demo/headunit/TitleStrip.h"
+
+#include "demo/headunit/ShortcutCaptions.h"
+
+namespace korvane::demo {
+
+namespace {
+
+constexpr int kSecondMs = 1000;
+constexpr int kNoticeMs = 3000;
+/// The title comes back a moment after the strip has cleared the notice.
+constexpr int kTitleReturnsMs = kNoticeMs + 200;
+
+}  // namespace
+
+bool TitleStrip::OnInit() {
+    const bool result = CLQTitleDialog::OnInit();
+    // The dialog hands over the button alone; the strip is the window that holds it.
+    SetShortCutBackCallBack([](void* button) {
+        static_cast<TitleStrip*>(static_cast<CLQButton*>(button)->GetFatherWnd())->CloseShortcuts();
+    });
+    noticeTimer_.SetTimer(kTitleReturnsMs);
+    noticeTimer_.SetCallBack(this, &TitleStrip::OnNoticeGone);
+    secondTimer_.SetTimer(kSecondMs);
+    secondTimer_.SetCallBack(this, &TitleStrip::OnSecond);
+    return result;
+}
+
+bool TitleStrip::DoMessage(_LQMessage* msg) {
+    const bool isSystemChange = msg && msg->code == kMsgSysInfoChanged;
+    const int item = isSystemChange ? msg->param : 0;
+    const bool result = CLQTitleDialog::DoMessage(msg);
+    if (isSystemChange && onSystemChanged_)
+        onSystemChanged_(item);
+    return result;
+}
+
+void TitleStrip::OnBtnBackPressUp() {
+    if (onBack_)
+        onBack_();
+}
+
+void TitleStrip::ShowTitle(int caption) {
+    title_ = caption;
+    noticeTimer_.StopTimer();
+    SetTitleInfo(caption, true, 0);
+}
+
+void TitleStrip::ShowNotice(int caption) {
+    SetTitleInfo(caption, false, kNoticeMs);
+    noticeTimer_.StartTimer();
+}
+
+void TitleStrip::ShowNotice(const wchar_t* picture) {
+    SetTitleIcon(picture, kNoticeMs);
+    noticeTimer_.StartTimer();
+}
+
+void TitleStrip::OnNoticeGone(void*, int) {
+    ShowTitle(title_);
+}
+
+void TitleStrip::OpenShortcuts() {
+    if (CLQGroupCtrl* const panel = GetShortCutControl())
+        CaptionShortcuts(*panel);
+    ShowShortcuts(true);
+}
+
+void TitleStrip::CloseShortcuts() {
+    ShowShortcuts(false);
+}
+
+void TitleStrip::ShowShortcuts(bool show) {
+    for (CLQGroupCtrl* const group : {GetShortCurShadow(), GetShortCutControl()}) {
+        if (group)
+            group->SetShow(show);
+    }
+}
+
+void TitleStrip::StartPlayTime() {
+    playStartMs_ = GetCurrentMS();
+    OnSecond(nullptr, 0);
+    EnablePlayTime(true);
+    secondTimer_.StartTimer();
+}
+
+void TitleStrip::StopPlayTime() {
+    secondTimer_.StopTimer();
+    EnablePlayTime(false);
+}
+
+void TitleStrip::OnSecond(void*, int) {
+    const unsigned seconds = (GetCurrentMS() - playStartMs_) / unsigned{kSecondMs};
+    wchar_t text[16] = L"";
+    std::swprintf(text, std::size(text), L"%u:%02u", seconds / 60, seconds % 60);
+    SetPlayTime(text, false);
+}
+
+}  // namespace korvane::demo

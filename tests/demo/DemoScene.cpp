@@ -1,0 +1,72 @@
+#include "tests/demo/DemoScene.h"
+
+#include <functional>
+
+#include "KorvaneEx.h"
+#include "platform/SharedMemory.h"
+
+#include "tests/support/InstallService.h"
+
+namespace korvane::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr char kApplication[] = "NandFlash/Application";
+
+/// Whether a control that is shown and satisfies the predicate lies in this window or group, at any depth.
+template <class Owner>
+bool Holds(Owner& owner, const std::function<bool(CLQBaseCtrl&)>& predicate) {
+    for (int i = 0; i < owner.GetChildCount(); ++i) {
+        CLQBaseCtrl* const child = owner.GetChild(i);
+        if (child->IsOwnerShow() && predicate(*child))
+            return true;
+        auto* const group = dynamic_cast<CLQGroupCtrl*>(child);
+        if (group && Holds(*group, predicate))
+            return true;
+    }
+    return false;
+}
+
+bool ScreenHolds(const std::function<bool(CLQBaseCtrl&)>& predicate) {
+    CLQScreen* const screen = CLQScreen::GetInstance();
+    for (int i = 0; i < screen->GetWindowCount(); ++i) {
+        CLQWindow* const window = screen->GetWindow(i);
+        if (window->IsShow() && Holds(*window, predicate))
+            return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+DemoScene::DemoScene() {
+    const fs::path made = fs::path(KORVANE_TEST_DEVICE_DIR) / kApplication;
+    const fs::path own = DeviceFolder() / kApplication;
+    fs::remove(ImageFolder());
+    for (const char* const folder : {"Image", "Layout", "Language"})
+        fs::create_directory_symlink(made / "Resource" / folder, own / "Resource" / folder);
+    fs::create_directories(own / "Profile");
+    for (const char* const file : {"LQ_SysSettings.ini", "LQ_ShortcutConfig.ini"})
+        fs::copy_file(made / "Profile" / file, own / "Profile" / file);
+    InstallService(DeviceFolder());
+    CLQLangManager::GetInstance()->LoadLanguage(L"English.lng");
+}
+
+DemoScene::~DemoScene() {
+    RemoveSharedMemory();
+}
+
+bool DemoScene::Shows(const std::wstring& text) const {
+    return ScreenHolds([&text](CLQBaseCtrl& ctrl) {
+        auto* const label = dynamic_cast<CLQStatic*>(&ctrl);
+        return label && label->GetText() == text;
+    });
+}
+
+bool DemoScene::ShowsControl(const wchar_t* name) const {
+    return ScreenHolds([name](CLQBaseCtrl& ctrl) { return ctrl.GetCtrlName() == name; });
+}
+
+}  // namespace korvane::test

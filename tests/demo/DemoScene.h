@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+
+#include "tests/support/Scene.h"
+
+namespace korvane::test {
+
+/// A scene whose device has the head unit's pictures, layouts, languages and factory settings, and the
+/// system-information service. The language is English.
+class DemoScene : public Scene {
+  public:
+    DemoScene();
+    ~DemoScene();
+
+    /// Whether a label that is shown, on any window, has this text.
+    bool Shows(const std::wstring& text) const;
+    /// Whether a control of that name is shown on any window.
+    bool ShowsControl(const wchar_t* name) const;
+
+    void Touch(int x, int y) {
+        Press(x, y);
+        Release(x, y);
+    }
+};
+
+}  // namespace korvane::test
