@@ -3,6 +3,7 @@
 /// The control library and the engine under it.
 
 #include "controls/ButtonTree.h"
+#include "controls/DialScaleEx.h"
 #include "controls/FreqStruct.h"
 #include "controls/NumSlider.h"
 #include "engine/Korvane.h"

@@ -21,7 +21,6 @@ constexpr bool IsInherited(Inherited, Base) {
     static_assert(!IsInherited(&Class::operation, &CLQBaseCtrl::operation), #operation " is overridden")
 
 #define EXPECT_COMMON_OPERATIONS_INHERITED(Class) \
-    EXPECT_INHERITED(Class, SetSize);             \
     EXPECT_INHERITED(Class, Move);                \
     EXPECT_INHERITED(Class, MoveTo);              \
     EXPECT_INHERITED(Class, SetShow);             \
@@ -54,6 +53,7 @@ TEST(NumSlider, OverridesOnlyCreateInputAndPainting) {
     EXPECT_OVERRIDDEN(CLQNumSlider, Create);
     EXPECT_OVERRIDDEN(CLQNumSlider, DoMessage);
     EXPECT_OVERRIDDEN(CLQNumSlider, Draw);
+    EXPECT_INHERITED(CLQNumSlider, SetSize);
     EXPECT_COMMON_OPERATIONS_INHERITED(CLQNumSlider);
 }
 
@@ -61,7 +61,16 @@ TEST(ButtonTree, OverridesOnlyInputAndPainting) {
     EXPECT_OVERRIDDEN(CLQButtonTree, DoMessage);
     EXPECT_OVERRIDDEN(CLQButtonTree, Draw);
     EXPECT_INHERITED(CLQButtonTree, Create);
+    EXPECT_INHERITED(CLQButtonTree, SetSize);
     EXPECT_COMMON_OPERATIONS_INHERITED(CLQButtonTree);
+}
+
+TEST(DialScaleInterface, OverridesOnlyCreateSizeInputAndPainting) {
+    EXPECT_OVERRIDDEN(CLQDialScaleEx, Create);
+    EXPECT_OVERRIDDEN(CLQDialScaleEx, SetSize);
+    EXPECT_OVERRIDDEN(CLQDialScaleEx, DoMessage);
+    EXPECT_OVERRIDDEN(CLQDialScaleEx, Draw);
+    EXPECT_COMMON_OPERATIONS_INHERITED(CLQDialScaleEx);
 }
 
 TEST(VirtualOrder, OfTheControlsIsTheOneOfTheirBase) {
@@ -72,6 +81,10 @@ TEST(VirtualOrder, OfTheControlsIsTheOneOfTheirBase) {
     EXPECT_EQ(VirtualOrder(&CLQNumSlider::Draw), 13);
     EXPECT_EQ(VirtualOrder(&CLQButtonTree::DoMessage), 12);
     EXPECT_EQ(VirtualOrder(&CLQButtonTree::Draw), 13);
+    EXPECT_EQ(VirtualOrder(&CLQDialScaleEx::Create), 1);
+    EXPECT_EQ(VirtualOrder(&CLQDialScaleEx::SetSize), 2);
+    EXPECT_EQ(VirtualOrder(&CLQDialScaleEx::DoMessage), 12);
+    EXPECT_EQ(VirtualOrder(&CLQDialScaleEx::Draw), 13);
 }
 
 TEST(VirtualOrder, OfWindowsAndControlsIsFixed) {
