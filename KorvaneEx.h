@@ -4,6 +4,7 @@
 
 #include "controls/ButtonTree.h"
 #include "controls/DialScaleEx.h"
+#include "controls/DialSlider.h"
 #include "controls/FreqStruct.h"
 #include "controls/NumSlider.h"
 #include "engine/Korvane.h"

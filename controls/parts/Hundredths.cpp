@@ -3,17 +3,6 @@
 #include <limits>
 
 namespace korvane {
-namespace {
-
-/// Every step is rounded to single precision, the product too: a product in double precision would differ in
-/// the last hundredth of some frequencies.
-int Hundredths(float value) {
-    const float guarded = static_cast<float>(static_cast<double>(value) + 0.002);
-    const float hundredths = guarded * 100.0f;
-    return TruncateToInt(hundredths);
-}
-
-}  // namespace
 
 int TruncateToInt(float value) {
     constexpr float kBeyondInt = 2147483648.0f;
@@ -24,12 +13,20 @@ int TruncateToInt(float value) {
     return value == value ? static_cast<int>(value) : 0;
 }
 
+int InHundredths(float value) {
+    // Every step is rounded to single precision, the product too: a product in double precision would differ
+    // in the last hundredth of some frequencies.
+    const float guarded = static_cast<float>(static_cast<double>(value) + 0.002);
+    const float hundredths = guarded * 100.0f;
+    return TruncateToInt(hundredths);
+}
+
 int IntegerPart(float value) {
-    return Hundredths(value) / 100;
+    return InHundredths(value) / 100;
 }
 
 int HundredthsPart(float value) {
-    return Hundredths(value) % 100;
+    return InHundredths(value) % 100;
 }
 
 }  // namespace korvane

@@ -73,6 +73,14 @@ TEST(DialScaleInterface, OverridesOnlyCreateSizeInputAndPainting) {
     EXPECT_COMMON_OPERATIONS_INHERITED(CLQDialScaleEx);
 }
 
+TEST(DialSliderInterface, OverridesOnlyCreateInputAndPainting) {
+    EXPECT_OVERRIDDEN(CLQDialSlider, Create);
+    EXPECT_OVERRIDDEN(CLQDialSlider, DoMessage);
+    EXPECT_OVERRIDDEN(CLQDialSlider, Draw);
+    EXPECT_INHERITED(CLQDialSlider, SetSize);
+    EXPECT_COMMON_OPERATIONS_INHERITED(CLQDialSlider);
+}
+
 TEST(VirtualOrder, OfTheControlsIsTheOneOfTheirBase) {
     if (!korvane::test::kKnowsVirtualOrder)
         GTEST_SKIP() << "another C++ ABI";
@@ -85,6 +93,9 @@ TEST(VirtualOrder, OfTheControlsIsTheOneOfTheirBase) {
     EXPECT_EQ(VirtualOrder(&CLQDialScaleEx::SetSize), 2);
     EXPECT_EQ(VirtualOrder(&CLQDialScaleEx::DoMessage), 12);
     EXPECT_EQ(VirtualOrder(&CLQDialScaleEx::Draw), 13);
+    EXPECT_EQ(VirtualOrder(&CLQDialSlider::Create), 1);
+    EXPECT_EQ(VirtualOrder(&CLQDialSlider::DoMessage), 12);
+    EXPECT_EQ(VirtualOrder(&CLQDialSlider::Draw), 13);
 }
 
 TEST(VirtualOrder, OfWindowsAndControlsIsFixed) {

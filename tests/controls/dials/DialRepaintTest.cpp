@@ -4,6 +4,7 @@
 #include "engine/window/Window.h"
 
 #include "tests/controls/dials/TestGauge.h"
+#include "tests/controls/dials/TestTuner.h"
 #include "tests/support/AllocationCount.h"
 
 namespace korvane::test {
@@ -40,6 +41,58 @@ TEST(DialScaleRepaint, AllocatesNothingOnceItsImagesAreLoaded) {
     }
     EXPECT_EQ(AllocationCount(), before);
     EXPECT_EQ(CLQScreen::GetInstance()->GetCounters().paints, kMarks);
+}
+
+class DialSliderRepaint : public testing::Test {
+  protected:
+    DialSliderRepaint() : scene(210, 280) {
+        CLQSurfHandle image = Icon();
+        WriteImage(scene.ImageFolder() / "Image.lqi", image);
+        _LQColor navy = {16, 32, 72, 255};
+        window.Create(0, 0, 210, 280);
+        window.EnableBkgColor(true, &navy);
+        tuner.SetBKgnd(L"Image.lqi");
+        tuner.SetIcongnd(L"Image.lqi");
+        tuner.SetPointgnd(L"Image.lqi");
+        tuner.SetShadowGnd(L"Image.lqi");
+        window.AddChild(&tuner);
+    }
+
+    /// Tunes by steps through the band; returns the number of paintings.
+    int TuneThrough(const _FreqStruct_& bounds) {
+        int steps = 0;
+        for (float value = bounds.minimum; value <= bounds.maximum; value += bounds.scale) {
+            tuner.SetVaule(value);
+            scene.Pump();
+            ++steps;
+        }
+        return steps;
+    }
+
+    void ExpectNoAllocation(const _FreqStruct_& bounds) {
+        tuner.Prepare(bounds, bounds.minimum);
+        for (int i = 1; i <= 6; ++i)
+            tuner.AddShortcut(bounds.minimum + static_cast<float>(i) * 5 * bounds.scale);
+        TuneThrough(bounds);
+
+        CLQScreen::GetInstance()->ResetCounters();
+        const int before = AllocationCount();
+        const int steps = TuneThrough(bounds);
+        EXPECT_EQ(AllocationCount(), before);
+        EXPECT_EQ(CLQScreen::GetInstance()->GetCounters().paints, static_cast<std::uint64_t>(steps));
+    }
+
+    Scene scene;
+    CLQWindow window;
+    TestTuner tuner;
+};
+
+TEST_F(DialSliderRepaint, OfDecimalsAllocatesNothingOnceEachDigitWasShown) {
+    ExpectNoAllocation(FmScale());
+}
+
+TEST_F(DialSliderRepaint, OfWholeNumbersAllocatesNothingOnceEachDigitWasShown) {
+    ExpectNoAllocation(AmScale());
 }
 
 }  // namespace
