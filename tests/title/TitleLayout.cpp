@@ -11,7 +11,7 @@ struct Part {
     const char* properties;
 };
 
-// Coordinates of children count from their group; those of the strip and of GpIconInfo are the same.
+// All groups begin at the corner of the strip, so that a control stays where it is without its group.
 constexpr Part kParts[] = {
     {"StInfo", "", "static", "x=200\ny=10\nwidth=240\nheight=40\nfontheight=24\nfontwidth=24\n"},
     {"BtnTACancel", "", "button", "x=440\ny=10\nwidth=60\nheight=40\nelement0.normal=cancel.lqi\n"},
@@ -31,10 +31,10 @@ constexpr Part kParts[] = {
     {"IconTA", "GpRDS", "static", "x=120\ny=30\nwidth=20\nheight=20\n"},
     {"IconTP", "GpRDS", "static", "x=140\ny=30\nwidth=20\nheight=20\n"},
     {"St24HR", "", "static", "x=700\ny=10\nwidth=60\nheight=40\n"},
-    {"Gp12HR", "", "group", "x=640\ny=0\nwidth=150\nheight=60\n"},
-    {"St12HR", "Gp12HR", "static", "x=60\ny=10\nwidth=60\nheight=40\n"},
-    {"IconAM", "Gp12HR", "static", "x=125\ny=10\nwidth=20\nheight=20\nbackground=am.lqi\n"},
-    {"IconPM", "Gp12HR", "static", "x=125\ny=30\nwidth=20\nheight=20\nbackground=pm.lqi\n"},
+    {"Gp12HR", "", "group", "x=0\ny=0\nwidth=790\nheight=60\n"},
+    {"St12HR", "Gp12HR", "static", "x=700\ny=10\nwidth=60\nheight=40\n"},
+    {"IconAM", "Gp12HR", "static", "x=765\ny=10\nwidth=20\nheight=20\nbackground=am.lqi\n"},
+    {"IconPM", "Gp12HR", "static", "x=765\ny=30\nwidth=20\nheight=20\nbackground=pm.lqi\n"},
 };
 
 const Part* FindPart(const std::string& name) {

@@ -1,0 +1,90 @@
+#include "tests/title/ExerciseStrip.h"
+#include "tests/title/TestStrip.h"
+
+namespace korvane::test {
+namespace {
+
+class TitleInit : public TestStrip {};
+
+TEST_F(TitleInit, TellsTheResultOfTheWindow) {
+    dialog = std::make_unique<CLQTitleDialog>();
+    EXPECT_TRUE(dialog->OnInit());
+    RemoveLayout("GpTitle.bin");
+    EXPECT_TRUE(dialog->OnInit()) << "whatever is missing";
+}
+
+TEST_F(TitleInit, HandsTheGroupsToTheWindow) {
+    Start();
+    EXPECT_EQ(dialog->GetChildCount(), 3);
+    for (CLQGroupCtrl* group :
+         {dialog->GetGpTitle(), dialog->GetShortCutControl(), dialog->GetShortCurShadow()}) {
+        ASSERT_NE(group, nullptr);
+        EXPECT_TRUE(dialog->HoldsCtrl(group));
+    }
+    EXPECT_TRUE(dialog->GetGpTitle()->IsShow());
+    EXPECT_FALSE(dialog->GetShortCutControl()->IsShow());
+    EXPECT_FALSE(dialog->GetShortCurShadow()->IsShow());
+}
+
+TEST_F(TitleInit, MayBeRepeated) {
+    Start();
+    Set(L"rdsIconMask", 31);
+    Set(L"afState", 2);
+    dialog->SetTitleIcon(L"cover.lqi", 3000);
+    dialog->SetTitleBackBtnShow(true);
+    scene.Advance(100);
+    const std::wstring time = Find<CLQStatic>(L"St12HR")->GetText();
+    ASSERT_TRUE(dialog->OnInit());
+    EXPECT_EQ(dialog->GetChildCount(), 3);
+    EXPECT_EQ(Find<CLQStatic>(L"St12HR")->GetText(), time) << "also in the same minute";
+    EXPECT_EQ(ImageSeenAt(L"BtnBack"), "back.lqi");
+    EXPECT_EQ(ImageSeenAt(L"StInfo"), "");
+    dialog->SetTitleBackBtnShow(false);
+    EXPECT_NE(ImageSeenAt(L"IconAF"), "") << "the search goes on";
+    dialog->SetTitleInfo(L"Station one", false, 0);
+    scene.Advance(3000);
+    EXPECT_EQ(dialog->GetTitleInfo(), L"Station one") << "the time-out ended with the earlier strip";
+    ExerciseStrip(*dialog, scene);
+}
+
+TEST_F(TitleInit, MayLoadAnotherLayoutTheNextTime) {
+    Start();
+    EXPECT_NE(Find(L"BtnGuide"), nullptr);
+    TitleLayout layout;
+    layout.without = {"StInfo", "BtnGuide"};
+    WriteTitleLayout(layout);
+    ASSERT_TRUE(dialog->OnInit());
+    EXPECT_EQ(Find(L"BtnGuide"), nullptr);
+    EXPECT_EQ(dialog->GetTitleInfo(), L"");
+    EXPECT_FALSE(dialog->IsPlayTimeShow());
+    ExerciseStrip(*dialog, scene);
+}
+
+TEST_F(TitleInit, HasNoDialogName) {
+    Start();
+    EXPECT_EQ(dialog->GetDialogName(), L"");
+}
+
+TEST_F(TitleInit, LetsTouchesThroughWhereTheStripShowsNothing) {
+    class Below : public CLQBaseCtrl {
+      public:
+        bool DoMessage(_LQMessage* msg) override {
+            presses += msg->code == kMsgPress;
+            return true;
+        }
+        int presses = 0;
+    };
+    Below below;
+    below.Create(0, 0, 800, 480);
+    background.AddChild(&below);
+    Start();
+    scene.Press(400, 300);
+    scene.Release(400, 300);
+    EXPECT_EQ(below.presses, 1);
+    Set(L"guideAvail", 1);
+    Click(Find(L"BtnGuide"));
+    EXPECT_EQ(below.presses, 1);
+}
+
+}  // namespace
+}  // namespace korvane::test
