@@ -1,5 +1,5 @@
 # What `cmake --install` puts in place: both libraries, the headers that their users include, the display
-# modules, the image tool, and the package that find_package(KorvaneEx) finds.
+# modules, the system-information service, the image tool, and the package that find_package(KorvaneEx) finds.
 include(CMakePackageConfigHelpers)
 
 # korvane_reached_headers(<result> <header>...)
@@ -39,6 +39,10 @@ target_compile_features(korvane INTERFACE cxx_std_17)
 set_target_properties(korvaneex PROPERTIES INSTALL_RPATH "$ORIGIN")
 install(TARGETS korvane EXPORT KorvaneTargets)
 install(TARGETS korvaneex EXPORT KorvaneExTargets)
+# Programs load the service from the device, where a copy of it or a link lies as
+# \NandFlash\Application\Bin\LQ_ShareMem.dll.
+set_target_properties(lq_sharemem PROPERTIES INSTALL_RPATH "$ORIGIN/..")
+install(TARGETS lq_sharemem DESTINATION "${CMAKE_INSTALL_LIBDIR}/korvaneex")
 install(EXPORT KorvaneTargets NAMESPACE Korvane:: DESTINATION "${package_dir}")
 install(EXPORT KorvaneExTargets NAMESPACE KorvaneEx:: DESTINATION "${package_dir}")
 

@@ -18,4 +18,7 @@ run("${CMAKE_COMMAND}" -S "${CONSUMER_DIR}" -B "${build}" -G Ninja "-DCMAKE_PREF
     "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}" ${flags})
 run("${CMAKE_COMMAND}" --build "${build}")
 run("${build}/engine_user")
-run("${build}/controls_user")
+file(GLOB_RECURSE service "${prefix}/korvaneex/LQ_ShareMem.dll" "${prefix}/*/korvaneex/LQ_ShareMem.dll")
+set(device "${WORK_DIR}/device")
+file(COPY ${service} DESTINATION "${device}/NandFlash/Application/Bin")
+run("${CMAKE_COMMAND}" -E env "KORVANE_DEVICE_ROOT=${device}" "${build}/controls_user")

@@ -73,9 +73,10 @@ TEST_F(SetupValues, TakeOnlyNamesThatTheFileCanHave) {
         EXPECT_EQ(Text(name), L"x");
     }
     const std::string before = ReadSetupFile();
+    const std::wstring tooLong(256, L'n');
     const wchar_t loneSurrogate[] = {static_cast<wchar_t>(0xD800), 0};
     for (const wchar_t* const name : {L"", L"a=b", L"[a", L"a]", L" a", L"a ", L";a", L"#a", L"a\nb", L"\x01",
-                                      (longest + L"n").c_str(), loneSurrogate}) {
+                                      tooLong.c_str(), loneSurrogate}) {
         EXPECT_EQ(setSetupValue(name, 4), 0);
         EXPECT_EQ(setSetupValueStr(name, L"x"), 0);
         EXPECT_EQ(getSetupValue(name, 9), 9);

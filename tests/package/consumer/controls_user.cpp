@@ -1,7 +1,12 @@
 #include "KorvaneEx.h"
 
-/// Shows a wheel off-screen; the exit status says whether its value was brought within the bounds.
+/// Loads the system-information service and shows a wheel off-screen; the exit status says whether the first
+/// was complete and the value of the other brought within the bounds.
 int main() {
+    CLQShareMemLink service;
+    if (!service.Load())
+        return 1;
+    service.Unload();
     if (!CLQScreen::GetInstance()->Open("memory", 320, 240, L"Consumer"))
         return 1;
     CLQWindow window;

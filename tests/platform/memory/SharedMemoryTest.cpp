@@ -255,9 +255,10 @@ TEST_F(SharedMemory, ThatDoesNotFitIsRefusedBeforeItIsWrittenTo) {
 
 TEST_F(SharedMemory, RefusesNamesAndSizesThatAreNone) {
     const std::wstring longest(64, L'n');
+    const std::wstring tooLong(65, L'n');
     EXPECT_NE(MapSharedMemory(longest.c_str(), 1, nullptr), nullptr);
     EXPECT_NE(MapSharedMemory(L"Az09-_", 1, nullptr), nullptr);
-    for (const wchar_t* const name : {L"", L"a/b", L"..", L"a b", L"\u00E4", (longest + L"n").c_str()})
+    for (const wchar_t* const name : {L"", L"a/b", L"..", L"a b", L"\u00E4", tooLong.c_str()})
         EXPECT_EQ(MapSharedMemory(name, 1, nullptr), nullptr);
     EXPECT_EQ(MapSharedMemory(nullptr, 1, nullptr), nullptr);
     EXPECT_EQ(Map(0), nullptr);
