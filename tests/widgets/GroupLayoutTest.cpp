@@ -173,6 +173,17 @@ TEST_F(GroupLayout, MeasuresTheOutermostPositionFromTheGroupThatItIsIn) {
     EXPECT_PLACE(inner->GetChild(0), 104, 206, 0, 0);
 }
 
+TEST_F(GroupLayout, PutsAChildWhosePositionIsNotToldIntoTheGroupsCorner) {
+    WriteIni(
+        "[g]\nkind=group\nx=100\ny=200\nchildren=s,h\n[s]\nkind=static\ny=4\n"
+        "[h]\nkind=group\nchildren=s\n");
+    CLQGroupCtrl group;
+    ASSERT_TRUE(group.LoadCtrlFromIni(ini, L"g"));
+    EXPECT_PLACE(group.GetChild(0), 100, 204, 0, 0);
+    EXPECT_PLACE(group.GetChild(1), 100, 200, 0, 0);
+    EXPECT_PLACE(dynamic_cast<CLQGroupCtrl*>(group.GetChild(1))->GetChild(0), 100, 204, 0, 0);
+}
+
 TEST_F(GroupLayout, KeepsPositionsInRangeWhateverTheLayoutSays) {
     CLQGroupCtrl outer;
     outer.Create(kMaxPosition, -kMaxPosition, 10, 10);

@@ -52,8 +52,10 @@ void CLQGroupCtrl::AddLoadedChild(int kind, Load load) {
     // A group passes over kinds that this program does not know.
     if (!child)
         return;
-    // The child's position is told relative to this group, so it must be in it first.
+    // The child's position is told relative to this group, so it must be in it first; the part that is not
+    // told is the group's own.
     AddChild(child);
+    child->MoveTo(m_nX, m_nY);
     if (!load(*child))
         DelChild(child, true);
 }
