@@ -3,13 +3,14 @@
 #include <vector>
 
 #include "engine/widgets/layout/LayoutArchive.h"
+#include "platform/Export.h"
 
 class CLQIniReadWrite;
 
 namespace korvane {
 
 /// One section of a text layout.
-class IniArchive : public LayoutArchive {
+class KORVANE_API IniArchive : public LayoutArchive {
   public:
     IniArchive(CLQIniReadWrite& ini, const wchar_t* section, bool loading);
 
