@@ -16,8 +16,8 @@ LQ_SERVICE_API _LQSysInfo* LQ_GetSysInfo();
 /// Ends the use of the record, whose address stays valid all the same. Returns 1.
 LQ_SERVICE_API int LQ_ReleaseSysInfo();
 
-/// Makes sure that the setup values can be read and written. 1 on success, else 0. The other calls do so by
-/// themselves.
+/// Makes the folder of the setup values where it is missing. 1 when they can be read, else 0. The other calls
+/// need no such preparation.
 LQ_SERVICE_API int LQ_InitSetupInfo();
 
 /// The number stored under a name, or the value of the record's field of that name. `fallback` when there is
