@@ -19,7 +19,7 @@ enum MessageCode : unsigned int {
     kMsgMove = 512,
     kMsgPress = 513,
     kMsgRelease = 514,
-    kMsgSysInfoChanged = 1191,  ///< param 1 to 28 names the system-information item
+    kMsgSysInfoChanged = 1191,  ///< param names the system-information item
 };
 
 /// Codes of the events that controls fire through their callback table.
