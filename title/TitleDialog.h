@@ -87,10 +87,12 @@ class KORVANEEX_API CLQTitleDialog : public CLQWindow {
     void CreatConfigDir(std::wstring dir);
 
   private:
-    // The strip: TitleDialog.cpp builds it.
+    // The controls: TitleControls.cpp.
     void BuildTitle();
     void FindTitleControls();
     void SplitTitleInfo();
+
+    /// What message 1191 asks for.
     void RefreshItem(int item);
 
     // The title: TitleText.cpp.
