@@ -12,9 +12,7 @@ namespace {
 
 TEST(DialScaleRepaint, AllocatesNothingOnceItsImagesAreLoaded) {
     Scene scene(200, 180);
-    CLQSurfHandle image = NewSurface(60, 9);
-    _LQColor glass = {255, 170, 0, 128};
-    image.FillRect(0, 0, 60, 9, glass, false);
+    CLQSurfHandle image = Filled(60, 9, {255, 170, 0, 128});
     for (const char* name : {"Face.lqi", "Needle.lqi"})
         WriteImage(scene.ImageFolder() / name, image);
 

@@ -38,12 +38,7 @@ class DialScaleCopy : public testing::TestWithParam<bool> {
         *copy = *original;
     }
 
-    static CLQSurfHandle Plain() {
-        CLQSurfHandle image = NewSurface(100, 100);
-        _LQColor brown = {90, 60, 30, 255};
-        image.FillRect(0, 0, 100, 100, brown, false);
-        return image;
-    }
+    static CLQSurfHandle Plain() { return Filled(100, 100, {90, 60, 30, 255}); }
 
     Scene scene;
     CLQSurfHandle face = Plain();

@@ -26,9 +26,7 @@ class DialSliderCopy : public testing::TestWithParam<bool> {
   protected:
     DialSliderCopy() : original(std::make_unique<TestTuner>()) {
         CLQSurfHandle icon = Icon();
-        CLQSurfHandle band = NewCanvas(40, 40);
-        _LQColor teal = {20, 120, 120, 255};
-        band.FillRect(0, 0, 40, 40, teal, false);
+        CLQSurfHandle band = Filled(40, 40, {20, 120, 120, 255});
         WriteImage(scene.ImageFolder() / "Icon.lqi", icon);
         WriteImage(scene.ImageFolder() / "Band.lqi", band);
         original->Prepare(FmScale(), 98.0f);

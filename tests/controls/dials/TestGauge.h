@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "controls/DialScaleEx.h"
-#include "engine/draw/SurfManager.h"
 #include "platform/coredll.h"
 
+#include "tests/controls/dials/Surfaces.h"
 #include "tests/support/Scene.h"
 
 namespace korvane::test {
@@ -17,14 +17,9 @@ constexpr int kGaugeY = 10;
 constexpr int kGaugeSize = 160;
 constexpr int kCanvasSize = 240;
 
-inline CLQSurfHandle NewSurface(int width, int height) {
-    return CLQSurfManager::GetInstance()->CreateSurface(width, height, eSurface_ARGB8888, true);
-}
-
 /// One colour, with a bright far end that tells where it points.
 inline CLQSurfHandle NeedleImage(int length, int height, _LQColor color) {
-    CLQSurfHandle needle = NewSurface(length, height);
-    needle.FillRect(0, 0, length, height, color, false);
+    CLQSurfHandle needle = Filled(length, height, color);
     _LQColor tip = {255, 255, 255, 255};
     needle.FillRect(length - 4, 0, length, height, tip, false);
     return needle;

@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "controls/DialSlider.h"
-#include "engine/draw/SurfManager.h"
 #include "engine/text/FontManager.h"
 
+#include "tests/controls/dials/Surfaces.h"
 #include "tests/support/Scene.h"
 
 namespace korvane::test {
@@ -45,18 +45,11 @@ inline _FreqStruct_ AmScale() {
     return {531.0f, 1602.0f, 9.0f, false, L"kHz"};
 }
 
-inline CLQSurfHandle NewCanvas(int width, int height) {
-    return CLQSurfManager::GetInstance()->CreateSurface(width, height, eSurface_ARGB8888, true);
+inline CLQSurfHandle GreyCanvas() {
+    return Filled(220, 460, {110, 130, 150, 255});
 }
 
 /// What the scale paints without a window, over a grey canvas.
-inline CLQSurfHandle GreyCanvas() {
-    CLQSurfHandle canvas = NewCanvas(220, 460);
-    _LQColor grey = {110, 130, 150, 255};
-    canvas.FillRect(0, 0, 220, 460, grey, false);
-    return canvas;
-}
-
 inline std::vector<std::uint32_t> LooksOf(CLQDialSlider& tuner) {
     CLQSurfHandle canvas = GreyCanvas();
     tuner.Draw(canvas);
@@ -67,10 +60,7 @@ inline std::vector<std::uint32_t> LooksOf(CLQDialSlider& tuner) {
 constexpr int kIconWidth = 26;
 constexpr int kIconHeight = 24;
 inline CLQSurfHandle Icon() {
-    CLQSurfHandle icon = NewCanvas(kIconWidth, kIconHeight);
-    _LQColor amber = {255, 190, 70, 255};
-    icon.FillRect(0, 0, kIconWidth, kIconHeight, amber, false);
-    return icon;
+    return Filled(kIconWidth, kIconHeight, {255, 190, 70, 255});
 }
 
 }  // namespace korvane::test
