@@ -20,8 +20,8 @@ build: configure  ## Build everything (PRESET=debug, asan or release; release un
 	@cmake --build --preset $(PRESET) --parallel $(JOBS)
 
 run: configure  ## Open the head unit, or without a display play its tour into build/tour
-	@cmake --build --preset $(PRESET) --parallel $(JOBS) --target headunit
-	@tools/run-headunit build/$(PRESET)/bin/headunit build/tour
+	@cmake --build --preset $(PRESET) --parallel $(JOBS) --target headunit headunitctl mainapp
+	@MAIN=$(MAIN) tools/run-headunit build/$(PRESET)/bin build/tour
 
 test: build  ## Run every test
 	@ctest --preset $(PRESET) --parallel $(JOBS)

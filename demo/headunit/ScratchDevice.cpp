@@ -59,6 +59,7 @@ ScratchDevice::~ScratchDevice() {
     if (root_.empty())
         return;
     RemoveSharedMemory();
+    SetDeviceRoot(present_);
     std::error_code ignored;
     fs::remove_all(root_, ignored);
 }
@@ -74,6 +75,7 @@ bool ScratchDevice::Enter() {
     for (const wchar_t* const file : kFactorySettings)
         settings.push_back(HostPath(file));
 
+    present_ = DeviceRoot();
     SetDeviceRoot(root_.u8string());
     for (std::size_t i = 0; i < folders.size(); ++i)
         Share(folders[i], HostPath(kSharedFolders[i]));

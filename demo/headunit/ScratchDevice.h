@@ -1,12 +1,13 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 namespace korvane::demo {
 
 /// A device of its own for one run: programs, pictures and texts of the present device, settings as from the
-/// factory, a fresh system record, and nobody else on it. It takes the place of the present device; its files
-/// are removed with the object.
+/// factory, a fresh system record, and nobody else on it. It takes the place of the present device until the
+/// object's end, which removes its files.
 class ScratchDevice {
   public:
     ScratchDevice() = default;
@@ -19,6 +20,7 @@ class ScratchDevice {
 
   private:
     std::filesystem::path root_;
+    std::string present_;
 };
 
 }  // namespace korvane::demo
