@@ -64,21 +64,27 @@ function(_korvane_convert_image svg name style)
   set(images ${images} "${image}" PARENT_SCOPE)
 endfunction()
 
-# korvane_add_layouts(<target> <file.ini>...)
+# korvane_add_layouts(<target> [IMAGES <target>...] [FILES] <file.ini>...)
 #
-# Adds a target that compiles each file into <name>.bin in the device's layout folder.
+# Adds a target that checks each file and compiles it into <name>.bin in the device's layout folder. An error in a
+# layout fails the build, a warning is shown. The images that the layouts name are those of the given targets;
+# without any they are not looked for.
 function(korvane_add_layouts target)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "IMAGES;FILES")
   set(layout_dir "${KORVANE_DEVICE_DIR}/NandFlash/Application/Resource/Layout")
   file(MAKE_DIRECTORY "${layout_dir}")
   set(layouts)
-  foreach(file IN LISTS ARGN)
+  foreach(file IN LISTS arg_UNPARSED_ARGUMENTS arg_FILES)
     get_filename_component(ini "${file}" ABSOLUTE)
     get_filename_component(name "${file}" NAME_WE)
     add_custom_command(
       OUTPUT "${layout_dir}/${name}.bin"
+      COMMAND lqlayout check --device-root "${KORVANE_DEVICE_DIR}" "$<$<NOT:$<BOOL:${arg_IMAGES}>>:--no-images>"
+              "${ini}"
       COMMAND lqlayout compile "${ini}" "${layout_dir}/${name}.bin"
-      DEPENDS "${ini}" lqlayout
+      DEPENDS "${ini}" lqlayout device_fonts ${arg_IMAGES}
       COMMENT "Compiling ${name}.ini"
+      COMMAND_EXPAND_LISTS
       VERBATIM)
     list(APPEND layouts "${layout_dir}/${name}.bin")
   endforeach()
