@@ -144,6 +144,22 @@ TEST_F(Lqimage, SaysWhatAnImageIs) {
     EXPECT_NE(output_.find("7x3"), std::string::npos);
 }
 
+TEST_F(Lqimage, SaysTypesAndSizesOfAWholeTree) {
+    std::filesystem::create_directories(At("in/night"));
+    WritePicture("in/soft.png", 0, 7, 3);
+    WritePicture("in/night/opaque.png", 255, 2, 2);
+    const std::string soft = (At("out") / "soft.lqi").string() + ": 7x3 argb8888 raw, 116 bytes\n";
+    const std::string opaque =
+        (At("out") / "night/opaque.lqi").string() + ": 2x2 xrgb8888 raw, 48 bytes, opaque\n";
+    ASSERT_EQ(Run("encode --raw --verbose " + Quoted("in") + " " + Quoted("out")), 0) << errors_;
+    EXPECT_EQ(output_, opaque + soft);
+    ASSERT_EQ(Run("info " + Quoted("out")), 0) << errors_;
+    EXPECT_EQ(output_, opaque + soft);
+    EXPECT_EQ(Run("info " + Quoted("in") + " " + Quoted("out")), 1);
+    EXPECT_EQ(errors_, "lqimage: " + At("in").string() + ": holds no .lqi files\n");
+    EXPECT_EQ(output_, opaque + soft);
+}
+
 TEST_F(Lqimage, LeavesTheOldFileWhenItFails) {
     Write("bad.png", {'x'});
     Write("old.lqi", {'o', 'l', 'd'});

@@ -29,6 +29,24 @@ bool ListTree(const fs::path& folder, const std::string& extension, std::vector<
 
 }  // namespace
 
+bool ListFiles(const fs::path& from, const std::string& extension, std::vector<fs::path>& files,
+               std::string& error) {
+    std::error_code failure;
+    if (!fs::is_directory(from, failure)) {
+        files.push_back(from);
+        return true;
+    }
+    if (!ListTree(from, extension, files, failure)) {
+        error = from.string() + ": " + failure.message();
+        return false;
+    }
+    if (files.empty()) {
+        error = from.string() + ": holds no " + extension + " files";
+        return false;
+    }
+    return true;
+}
+
 bool ListFilePairs(const fs::path& from, const fs::path& to, const std::string& fromExtension,
                    const std::string& toExtension, std::vector<FilePair>& pairs, std::string& error) {
     std::error_code failure;
@@ -37,14 +55,8 @@ bool ListFilePairs(const fs::path& from, const fs::path& to, const std::string& 
         return true;
     }
     std::vector<fs::path> files;
-    if (!ListTree(from, fromExtension, files, failure)) {
-        error = from.string() + ": " + failure.message();
+    if (!ListFiles(from, fromExtension, files, error))
         return false;
-    }
-    if (files.empty()) {
-        error = from.string() + ": holds no " + fromExtension + " files";
-        return false;
-    }
     for (const fs::path& file : files) {
         const fs::path made = (to / file.lexically_relative(from)).replace_extension(toExtension);
         fs::create_directories(made.parent_path(), failure);

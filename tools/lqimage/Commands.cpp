@@ -1,6 +1,5 @@
 #include "tools/lqimage/Commands.h"
 
-#include <cstring>
 #include <vector>
 
 #include "engine/draw/SurfManager.h"
@@ -9,6 +8,7 @@
 #include "tools/hostfile/HostFile.h"
 #include "tools/lqimage/PixelType.h"
 #include "tools/png/Png.h"
+#include "tools/png/SurfacePicture.h"
 
 namespace korvane::tools {
 namespace {
@@ -29,16 +29,6 @@ CLQSurfHandle Convert(CLQSurfHandle& source, _eSurfaceType type) {
     CLQSurfHandle target = MakeSurface(source.GetWidth(), source.GetHeight(), type);
     target.BitBlt(source, 0, 0, source.GetWidth(), source.GetHeight(), 0, 0);
     return target;
-}
-
-CLQSurfHandle ToSurface(const png::Picture& picture) {
-    CLQSurfHandle surface = MakeSurface(picture.width, picture.height, eSurface_ARGB8888);
-    if (CLQSurface* const pixels = surface.GetSurface()) {
-        std::memcpy(pixels->GetPixels(), picture.pixels.data(),
-                    picture.pixels.size() * sizeof(std::uint32_t));
-        pixels->Touch();
-    }
-    return surface;
 }
 
 struct ImageFile {
@@ -84,7 +74,7 @@ bool EncodeFile(const fs::path& from, const fs::path& to, const EncodeOptions& o
     _eSurfaceType type = options.type;
     if (type == eSurface_None)
         type = picture.IsOpaque() ? eSurface_XRGB8888 : eSurface_ARGB8888;
-    CLQSurfHandle whole = ToSurface(picture);
+    CLQSurfHandle whole = png::ToSurface(picture);
     CLQSurfHandle surface = Convert(whole, type);
     if (surface.GetSurface() == nullptr) {
         error = About(from, "there is not enough memory");
@@ -104,16 +94,11 @@ bool DecodeFile(const fs::path& from, const fs::path& to, std::string& error) {
     ImageFile image;
     if (!ReadImage(from, image, error))
         return false;
-    CLQSurfHandle whole = Convert(image.surface, eSurface_ARGB8888);
-    if (whole.GetSurface() == nullptr) {
+    const png::Picture picture = png::FromSurface(Convert(image.surface, eSurface_ARGB8888));
+    if (picture.pixels.empty()) {
         error = About(from, "there is not enough memory");
         return false;
     }
-    png::Picture picture;
-    picture.width = whole.GetWidth();
-    picture.height = whole.GetHeight();
-    const auto* const pixels = static_cast<const std::uint32_t*>(whole.GetSurface()->GetPixels());
-    picture.pixels.assign(pixels, pixels + static_cast<std::ptrdiff_t>(picture.width) * picture.height);
     std::string what;
     if (!png::WritePng(to, picture, what)) {
         error = About(to, what);

@@ -3,6 +3,7 @@
 #include <exception>
 #include <functional>
 
+#include "tools/commandline/WrongUsage.h"
 #include "tools/hostfile/FilePairs.h"
 #include "tools/lqimage/Commands.h"
 #include "tools/lqimage/PixelType.h"
@@ -20,19 +21,13 @@ struct Arguments {
     std::string to;
     std::string type = "auto";
     bool isRaw = false;
+    bool isVerbose = false;
     std::vector<std::string> files;
 };
 
 int Fail(const std::string& error) {
     std::fprintf(stderr, "lqimage: %s\n", error.c_str());
     return kFailed;
-}
-
-std::string DescribeWrongUsage(const CLI::App* app, const CLI::Error& error) {
-    const std::vector<std::string> unknown = app->remaining();
-    if (app->get_subcommands().empty() && !unknown.empty())
-        return "lqimage: '" + unknown.front() + "' is unknown; the commands are encode, decode and info\n";
-    return "lqimage: " + CLI::FailureMessage::simple(app, error);
 }
 
 int ConvertAll(const Arguments& arguments, const char* fromExtension, const char* toExtension,
@@ -50,12 +45,22 @@ int ConvertAll(const Arguments& arguments, const char* fromExtension, const char
     return result;
 }
 
+/// Prints what the image file is.
+bool Describe(const std::filesystem::path& file, std::string& error) {
+    std::string description;
+    if (!korvane::tools::DescribeFile(file, description, error))
+        return false;
+    std::printf("%s\n", description.c_str());
+    return true;
+}
+
 int Encode(const Arguments& arguments) {
     EncodeOptions options;
     options.type = korvane::tools::PixelTypeByName(arguments.type);
     options.encoding = arguments.isRaw ? korvane::LqiEncoding::Raw : korvane::LqiEncoding::Lz4;
-    return ConvertAll(arguments, ".png", ".lqi", [&options](const FilePair& pair, std::string& error) {
-        return korvane::tools::EncodeFile(pair.from, pair.to, options, error);
+    return ConvertAll(arguments, ".png", ".lqi", [&](const FilePair& pair, std::string& error) {
+        return korvane::tools::EncodeFile(pair.from, pair.to, options, error) &&
+               (!arguments.isVerbose || Describe(pair.to, error));
     });
 }
 
@@ -67,13 +72,15 @@ int Decode(const Arguments& arguments) {
 
 int Info(const Arguments& arguments) {
     int result = 0;
-    for (const std::string& file : arguments.files) {
-        std::string description;
+    for (const std::string& name : arguments.files) {
+        std::vector<std::filesystem::path> files;
         std::string error;
-        if (korvane::tools::DescribeFile(file, description, error))
-            std::printf("%s\n", description.c_str());
-        else
+        if (!korvane::tools::ListFiles(name, ".lqi", files, error))
             result = Fail(error);
+        for (const std::filesystem::path& file : files) {
+            if (!Describe(file, error))
+                result = Fail(error);
+        }
     }
     return result;
 }
@@ -82,7 +89,7 @@ int Run(int argc, char** argv) {
     Arguments arguments;
     CLI::App app("Converts pictures between PNG and the head unit's .lqi format", "lqimage");
     app.require_subcommand(1);
-    app.failure_message(DescribeWrongUsage);
+    app.failure_message(korvane::tools::DescribeWrongUsage);
 
     CLI::App* const encode =
         app.add_subcommand("encode", "PNG to .lqi: a file, or all .png files of a folder");
@@ -96,14 +103,16 @@ int Run(int argc, char** argv) {
         ->check(CLI::IsMember(types))
         ->capture_default_str();
     encode->add_flag("--raw", arguments.isRaw, "Do not compress");
+    encode->add_flag("--verbose", arguments.isVerbose, "Say type and size of each image");
 
     CLI::App* const decode =
         app.add_subcommand("decode", ".lqi to PNG: a file, or all .lqi files of a folder");
     decode->add_option("lqi", arguments.from, ".lqi file or folder")->required();
     decode->add_option("png", arguments.to, "File or folder to make")->required();
 
-    CLI::App* const info = app.add_subcommand("info", "Checks .lqi files and says what they hold");
-    info->add_option("file", arguments.files, ".lqi files")->required();
+    CLI::App* const info =
+        app.add_subcommand("info", "Checks .lqi files, says what they hold and how large they are");
+    info->add_option("file", arguments.files, ".lqi files or folders of them")->required();
 
     try {
         app.parse(argc, argv);

@@ -1,8 +1,5 @@
 #include "tools/lqlayout/Render.h"
 
-#include <cstddef>
-#include <cstdint>
-
 #include "engine/core/Message.h"
 #include "engine/text/LangManager.h"
 #include "engine/window/GroupCtrl.h"
@@ -13,6 +10,7 @@
 #include "platform/Unicode.h"
 
 #include "tools/png/Png.h"
+#include "tools/png/SurfacePicture.h"
 
 namespace korvane::tools {
 namespace {
@@ -36,16 +34,7 @@ class OffScreen {
 
     png::Picture Paint() {
         CLQScreen::GetInstance()->Paint();
-        CLQSurface* const surface = CLQScreen::GetInstance()->GetScreenSurfHandle().GetSurface();
-        png::Picture picture;
-        picture.width = surface->GetWidth();
-        picture.height = surface->GetHeight();
-        const auto* row = static_cast<const unsigned char*>(surface->GetPixels());
-        for (int y = 0; y < picture.height; ++y, row += surface->GetPitch()) {
-            const auto* const pixels = reinterpret_cast<const std::uint32_t*>(row);
-            picture.pixels.insert(picture.pixels.end(), pixels, pixels + picture.width);
-        }
-        return picture;
+        return png::FromSurface(CLQScreen::GetInstance()->GetScreenSurfHandle());
     }
 
   private:
