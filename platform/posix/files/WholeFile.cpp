@@ -1,6 +1,6 @@
-#include <atomic>
 #include <cerrno>
 #include <fcntl.h>
+#include <memory>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -9,6 +9,7 @@
 #include "platform/posix/LastError.h"
 #include "platform/posix/files/Descriptor.h"
 #include "platform/posix/files/DevicePath.h"
+#include "platform/posix/files/TemporaryFile.h"
 
 namespace korvane {
 namespace {
@@ -27,19 +28,9 @@ bool WriteAll(int file, const void* bytes, std::size_t size) {
     return true;
 }
 
-// A name that no other writer uses, in the same folder, because a rename is atomic only within a file system.
-std::string TemporaryName(const std::string& hostPath) {
-    static std::atomic<unsigned> count{0};
-    const std::size_t slash = hostPath.rfind('/') + 1;
-    return hostPath.substr(0, slash) + ".korvane-" + std::to_string(getpid()) + '-' + std::to_string(++count);
-}
-
-bool WriteNewFile(const std::string& hostPath, mode_t mode, const void* bytes, std::size_t size) {
-    Descriptor file(open(hostPath.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-    if (!file.IsOpen())
-        return false;
-    const bool modeKept = mode == 0 || fchmod(file.Number(), mode) == 0;
-    return modeKept && WriteAll(file.Number(), bytes, size) && fsync(file.Number()) == 0 && file.Close();
+bool WriteContents(int file, mode_t mode, const void* bytes, std::size_t size) {
+    const bool modeKept = mode == 0 || fchmod(file, mode) == 0;
+    return modeKept && WriteAll(file, bytes, size) && fsync(file) == 0;
 }
 
 // Makes the rename itself survive a power failure. File systems that cannot are left as they are.
@@ -60,15 +51,12 @@ bool ReplaceFileAtomically(const wchar_t* devicePath, const void* bytes, std::si
     const bool exists = stat(target.c_str(), &status) == 0;
     if (exists && !S_ISREG(status.st_mode))
         return Fail(ERROR_ACCESS_DENIED);
-    const std::string temporary = TemporaryName(target);
-    if (WriteNewFile(temporary, exists ? status.st_mode & 0777 : 0, bytes, size) &&
-        rename(temporary.c_str(), target.c_str()) == 0) {
-        SyncFolderOf(target);
-        return true;
-    }
-    SetLastError(ErrorFromErrno(errno));
-    unlink(temporary.c_str());
-    return false;
+    const std::unique_ptr<TemporaryFile> next = TemporaryFile::Create(target);
+    if (!next || !WriteContents(next->Number(), exists ? status.st_mode & 0777 : 0, bytes, size) ||
+        !next->Rename())
+        return Fail(ErrorFromErrno(errno));
+    SyncFolderOf(target);
+    return true;
 }
 
 bool ReadWholeFile(const wchar_t* devicePath, std::size_t limit, std::vector<unsigned char>& bytes) {
