@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <filesystem>
+#include <iterator>
 #include <limits>
 #include <memory>
 #include <random>
@@ -215,6 +217,8 @@ TEST_F(SetupValues, AreWholeWhenTheirWriterIsKilled) {
         ASSERT_EQ(setSetupValue(L"round", round), 1);
     }
     EXPECT_EQ(getSetupValue(L"round", -1), 19);
+    const std::filesystem::directory_iterator folder(SetupFile().parent_path());
+    EXPECT_EQ(std::distance(begin(folder), end(folder)), 1) << "nothing else is left of the killed ones";
 }
 
 }  // namespace
