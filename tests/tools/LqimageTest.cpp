@@ -1,7 +1,6 @@
-#include <cstdlib>
 #include <random>
 
-#include "tests/tools/TemporaryFolder.h"
+#include "tests/tools/ProgramFolder.h"
 #include "tools/png/Png.h"
 
 namespace korvane::test {
@@ -10,27 +9,9 @@ namespace {
 constexpr std::size_t kTypeAt = 5;
 constexpr std::size_t kEncodingAt = 6;
 
-class Lqimage : public TemporaryFolder {
+class Lqimage : public ProgramFolder {
   protected:
-    std::string Quoted(const std::string& name) const { return '"' + At(name).string() + '"'; }
-
-    /// Runs the program; returns its exit status and keeps what it printed.
-    int Run(const std::string& arguments) {
-        const std::string command =
-            "\"" LQIMAGE_PROGRAM "\" " + arguments + " >" + Quoted(".out") + " 2>" + Quoted(".err");
-        const int status = std::system(command.c_str());
-        output_ = Text(".out");
-        errors_ = Text(".err");
-        std::filesystem::remove(At(".out"));
-        std::filesystem::remove(At(".err"));
-        // Where the status holds more than the exit code, that is its second byte.
-        return status > 255 ? status / 256 : status;
-    }
-
-    std::string Text(const std::string& name) const {
-        const std::vector<std::uint8_t> bytes = Read(name);
-        return {bytes.begin(), bytes.end()};
-    }
+    Lqimage() : ProgramFolder(LQIMAGE_PROGRAM) {}
 
     void WritePicture(const std::string& name, std::uint32_t leastAlpha, int width = 24,
                       int height = 9) const {
@@ -52,9 +33,6 @@ class Lqimage : public TemporaryFolder {
         EXPECT_TRUE(png::ReadPng(At(name), picture, error)) << error;
         return picture.pixels;
     }
-
-    std::string output_;
-    std::string errors_;
 };
 
 TEST_F(Lqimage, BringsBackThePicture) {
