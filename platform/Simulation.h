@@ -42,7 +42,9 @@ KORVANE_API bool NextTimerDue(unsigned& msFromNow);
 /// empty function removes it.
 ///
 /// A wait under the manual clock that nothing could end (the handler returned false or is itself waiting, or
-/// there is no handler, no display and no other thread) ends as if WM_QUIT had been posted with exit code 0.
+/// there is no handler, no display, no other thread and no other process) ends as if WM_QUIT had been posted
+/// with exit code 0. A process counts when it has found a window of this one with FindWindowW, or has posted
+/// or sent to it, and still runs.
 KORVANE_API void SetIdleHandler(std::function<bool()> handler);
 
 /// Appends an input message to the queue of the window's thread, behind all posted ones. A WM_MOUSEMOVE right

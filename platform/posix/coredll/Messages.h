@@ -91,10 +91,16 @@ KORVANE_API void PostQuitMessage(int exitCode);
 /// Appends to the queue of the window's thread and returns. A null window posts to the calling thread's own
 /// queue. FALSE for a dead window, for messages that carry pointers (WM_SETTEXT and its like), and when 10000
 /// posted messages wait there already. Any thread may call it.
+///
+/// For a window of another process it is FALSE, too, when that process has not run for so long that hundreds
+/// of messages wait on the way. It never waits itself.
 KORVANE_API BOOL PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
 /// Runs the window's procedure and returns its result: directly on the window's own thread, otherwise inside
 /// that thread's next retrieval while the caller waits (and goes on answering what is sent to it). 0 for a
 /// dead window.
+///
+/// A window of another process has five seconds to answer, counted from the call; then, or when its process
+/// ends, the result is 0.
 KORVANE_API LRESULT SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 }

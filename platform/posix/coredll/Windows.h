@@ -4,6 +4,8 @@
 
 typedef LRESULT(CALLBACK* WNDPROC)(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
+typedef BOOL(CALLBACK* WNDENUMPROC)(HWND window, LPARAM parameter);
+
 typedef struct tagWNDCLASSW {
     UINT style;
     WNDPROC lpfnWndProc;
@@ -47,6 +49,11 @@ constexpr int GWLP_WNDPROC = -4;
 constexpr int GWL_STYLE = -16;
 constexpr int GWLP_USERDATA = -21;
 
+// The top-level windows of other processes of the same user and device root can be found, asked for their
+// class and title, and sent messages. Everything else here is for windows of this process. A process counts
+// to the device root that it has when it makes the first of its top-level windows; another one counts once
+// all of them are gone. Without a runtime folder that only the user can enter, each process is by itself.
+
 extern "C" {
 
 /// Class names are compared without regard to case. 0 when the name is missing, longer than 256 or taken, or
@@ -81,9 +88,14 @@ KORVANE_API BOOL SetWindowTextW(HWND window, LPCWSTR text);
 KORVANE_API int GetWindowTextW(HWND window, LPWSTR text, int capacity);
 KORVANE_API int GetClassNameW(HWND window, LPWSTR name, int capacity);
 
-/// The newest top-level window that fits. A null name fits everything; the class is compared without regard
-/// to case, the title exactly.
+/// The newest top-level window that fits, of this process if it has one, else of the others. A null name fits
+/// everything; both names are compared without regard to case. Other processes see the first 1024 characters
+/// of a title.
 KORVANE_API HWND FindWindowW(LPCWSTR className, LPCWSTR title);
+
+/// Calls `procedure` for each top-level window, those of this process first, the newest first in either part.
+/// FALSE from `procedure` ends it, and is the result.
+KORVANE_API BOOL EnumWindows(WNDENUMPROC procedure, LPARAM parameter);
 
 /// GWLP_WNDPROC, GWLP_USERDATA and GWL_STYLE of this process's windows; 0 and ERROR_INVALID_INDEX for another
 /// index. A style that is set changes no visibility.

@@ -2,25 +2,12 @@
 
 #include "platform/Simulation.h"
 #include "platform/posix/LastError.h"
+#include "platform/posix/queue/PointerMessage.h"
 #include "platform/posix/queue/Session.h"
-#include "platform/posix/window/RemoteWindows.h"
+#include "platform/posix/remote/RemoteWindows.h"
 
 namespace korvane {
 namespace {
-
-// Their parameters point into the sender's memory, so they cannot be left in a queue.
-bool CarriesPointers(UINT message) {
-    switch (message) {
-        case WM_CREATE:
-        case WM_NCCREATE:
-        case WM_SETTEXT:
-        case WM_GETTEXT:
-        case WM_GETTEXTLENGTH:
-            return true;
-        default:
-            return false;
-    }
-}
 
 bool Post(HWND window, UINT message, WPARAM wParam, LPARAM lParam, DWORD time) {
     if (CarriesPointers(message))
@@ -93,8 +80,8 @@ using namespace korvane;
 extern "C" {
 
 BOOL PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (RemoteWindows* remote = window ? RemoteWindowsFor(window) : nullptr)
-        return remote->Post(window, message, wParam, lParam);
+    if (IsRemoteHandle(window))
+        return PostToRemoteWindow(window, message, wParam, lParam);
     return Post(window, message, wParam, lParam, GetTickCount());
 }
 

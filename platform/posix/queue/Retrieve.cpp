@@ -3,6 +3,7 @@
 #include "platform/posix/LastError.h"
 #include "platform/posix/queue/Send.h"
 #include "platform/posix/queue/Waiting.h"
+#include "platform/posix/remote/receive/Station.h"
 
 namespace korvane {
 namespace {
@@ -119,6 +120,7 @@ BOOL GetMessageW(MSG* message, HWND window, UINT first, UINT last) {
     Session& session = TheSession();
     const Filter filter = MakeFilter(window, first, last);
     for (;;) {
+        TakeInRemoteMessages();
         AnswerSentMessages(queue);
         PumpDisplay(session, queue);
         std::unique_lock<std::mutex> lock(session.mutex);
@@ -141,6 +143,7 @@ BOOL PeekMessageW(MSG* message, HWND window, UINT first, UINT last, UINT remove)
     ThreadQueue& queue = CurrentQueue();
     Session& session = TheSession();
     const Filter filter = MakeFilter(window, first, last);
+    TakeInRemoteMessages();
     AnswerSentMessages(queue);
     PumpDisplay(session, queue);
     const std::lock_guard<std::mutex> lock(session.mutex);

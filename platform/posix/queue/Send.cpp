@@ -1,10 +1,32 @@
 #include "platform/posix/queue/Send.h"
 
+#include <algorithm>
+
 #include "platform/posix/LastError.h"
-#include "platform/posix/window/RemoteWindows.h"
+#include "platform/posix/remote/RemoteWindows.h"
+#include "platform/posix/remote/receive/Station.h"
 
 namespace korvane {
 namespace {
+
+// On the stack of the thread that sends it, until it is done.
+class ThreadMessage final : public SentMessage {
+  public:
+    ThreadMessage(ThreadQueue& sender, const MSG& toSend) : sender_(sender) { message = toSend; }
+
+    bool IsDone() const { return done_; }
+    LRESULT Result() const { return result_; }
+    void Finish(LRESULT result) override {
+        result_ = result;
+        done_ = true;
+        sender_.changed.notify_all();
+    }
+
+  private:
+    ThreadQueue& sender_;
+    LRESULT result_ = 0;
+    bool done_ = false;
+};
 
 // Answers a sent message when it goes out of scope, so that the sender goes on even if the procedure throws.
 class Answer {
@@ -14,7 +36,7 @@ class Answer {
     ~Answer() {
         const std::lock_guard<std::mutex> lock(session_.mutex);
         queue_.answering.pop_back();
-        Finish(message_, result_);
+        message_.Finish(result_);
     }
     Answer(const Answer&) = delete;
     Answer& operator=(const Answer&) = delete;
@@ -28,6 +50,21 @@ class Answer {
     LRESULT result_ = 0;
 };
 
+// The names of another process's window are known here, so that reading them carries no pointer there.
+LRESULT SendToRemote(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    const auto capacity = static_cast<int>(std::min<WPARAM>(wParam, 0x7FFFFFFF));
+    switch (message) {
+        case WM_GETTEXT:
+            return GetWindowTextW(window, reinterpret_cast<LPWSTR>(lParam), capacity);
+        case WM_GETTEXTLENGTH: {
+            const std::optional<RemoteWindowNames> names = NamesOfRemoteWindow(window);
+            return names ? static_cast<LRESULT>(names->title.size()) : Fail(ERROR_INVALID_WINDOW_HANDLE);
+        }
+        default:
+            return SendToRemoteWindow(window, message, wParam, lParam);
+    }
+}
+
 LRESULT SendToThread(std::unique_lock<std::mutex>& lock, Session& session, ThreadQueue& target,
                      const MSG& message) {
     lock.unlock();
@@ -35,21 +72,20 @@ LRESULT SendToThread(std::unique_lock<std::mutex>& lock, Session& session, Threa
     lock.lock();
     if (!FindWindowOf(session, message.hwnd))
         return 0;
-    SentMessage sent;
-    sent.message = message;
-    sent.sender = &own;
+    ThreadMessage sent(own, message);
     target.sent.push_back(&sent);
     WakeQueue(session, target);
-    while (!sent.done) {
+    while (!sent.IsDone()) {
         if (own.sent.empty()) {
-            own.changed.wait(lock);
+            if (ReadsRemoteMessages(lock))
+                own.changed.wait(lock);
         } else {
             lock.unlock();
             AnswerSentMessages(own);
             lock.lock();
         }
     }
-    return sent.result;
+    return sent.Result();
 }
 
 }  // namespace
@@ -90,8 +126,8 @@ using namespace korvane;
 extern "C" {
 
 LRESULT SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (RemoteWindows* remote = window ? RemoteWindowsFor(window) : nullptr)
-        return remote->Send(window, message, wParam, lParam);
+    if (IsRemoteHandle(window))
+        return SendToRemote(window, message, wParam, lParam);
     Session& session = TheSession();
     std::unique_lock<std::mutex> lock(session.mutex);
     const Window* found = FindWindowOf(session, window);

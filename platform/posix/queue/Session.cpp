@@ -1,13 +1,18 @@
 #include "platform/posix/queue/Session.h"
 
 #include <algorithm>
+#include <sys/eventfd.h>
+
+#include "platform/posix/remote/receive/Station.h"
 
 namespace korvane {
 namespace {
 
-void RemoveQueue(ThreadQueue* queue) {
+// True when it had windows, which end with it.
+bool RemoveQueue(ThreadQueue* queue) {
     Session& session = TheSession();
     const std::lock_guard<std::mutex> lock(session.mutex);
+    const std::size_t before = session.windows.size();
     for (auto window = session.windows.begin(); window != session.windows.end();) {
         if (window->second->queue == queue)
             window = session.windows.erase(window);
@@ -15,9 +20,9 @@ void RemoveQueue(ThreadQueue* queue) {
             ++window;
     }
     for (SentMessage* message : queue->sent)
-        Finish(*message, 0);
+        message->Finish(0);
     for (SentMessage* message : queue->answering)
-        Finish(*message, 0);
+        message->Finish(0);
     if (session.displayQueue == queue) {
         session.display = nullptr;
         session.displayQueue = nullptr;
@@ -25,6 +30,7 @@ void RemoveQueue(ThreadQueue* queue) {
     session.queues.erase(
         std::find_if(session.queues.begin(), session.queues.end(),
                      [queue](const std::unique_ptr<ThreadQueue>& owned) { return owned.get() == queue; }));
+    return session.windows.size() != before;
 }
 
 // Trivial, so that it can still be read while the thread's other objects are being destroyed.
@@ -32,8 +38,10 @@ thread_local ThreadQueue* currentQueue = nullptr;
 
 struct QueueEnd {
     ~QueueEnd() {
-        RemoveQueue(currentQueue);
+        const bool hadWindows = RemoveQueue(currentQueue);
         currentQueue = nullptr;
+        if (hadWindows)
+            PublishWindows();
     }
 };
 
@@ -88,6 +96,8 @@ void WakeQueue(Session& session, ThreadQueue& queue) {
     if (&queue == currentQueue)
         return;
     queue.changed.notify_all();
+    if (queue.socketWaits > 0)
+        eventfd_write(queue.raised.Number(), 1);
     if (session.display && session.displayQueue == &queue)
         session.display->Wake();
 }
@@ -98,12 +108,6 @@ void RemoveWindow(Session& session, Window& window) {
     window.queue->input.EraseOf(handle);
     window.queue->timers.KillOf(handle);
     session.windows.erase(reinterpret_cast<UINT_PTR>(handle));
-}
-
-void Finish(SentMessage& message, LRESULT result) {
-    message.result = result;
-    message.done = true;
-    message.sender->changed.notify_all();
 }
 
 }  // namespace korvane

@@ -47,6 +47,4 @@ void WakeQueue(Session& session, ThreadQueue& queue);
 /// Gives up what waits for the window's answer, its messages and its timers, and ends it.
 void RemoveWindow(Session& session, Window& window);
 
-void Finish(SentMessage& message, LRESULT result);
-
 }  // namespace korvane

@@ -5,20 +5,23 @@
 #include <memory>
 #include <vector>
 
+#include "platform/posix/files/Descriptor.h"
 #include "platform/posix/queue/MessageRing.h"
 #include "platform/posix/queue/TimerList.h"
 
 namespace korvane {
 
-struct ThreadQueue;
-
-/// A message that another thread has sent and whose answer it awaits. It lies on the sender's stack until
-/// `done`.
-struct SentMessage {
+/// A message that another thread or process has sent and whose answer it awaits. It belongs to the sender's
+/// side.
+class SentMessage {
+  public:
     MSG message{};
-    ThreadQueue* sender = nullptr;
-    LRESULT result = 0;
-    bool done = false;
+
+    /// Hands the answer over. To be called once, with the session's mutex held; the object may end with it.
+    virtual void Finish(LRESULT result) = 0;
+
+  protected:
+    ~SentMessage() = default;
 };
 
 /// All that one thread may retrieve. Guarded by the session's mutex.
@@ -34,6 +37,10 @@ struct ThreadQueue {
     Moment quitMoment = 0;
 
     std::condition_variable changed;
+    // What the thread waits for together with a socket: an event counter, made when first needed, that is
+    // raised while `socketWaits` is not 0.
+    Descriptor raised;
+    int socketWaits = 0;
 
     std::shared_ptr<std::function<bool()>> idleHandler;
     bool idling = false;

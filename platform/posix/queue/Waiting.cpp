@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "platform/Simulation.h"
+#include "platform/posix/remote/receive/Station.h"
 
 namespace korvane {
 namespace {
@@ -21,12 +22,13 @@ int MillisecondsUntil(SteadyClock::time_point deadline) {
 }
 
 bool OtherThreadsExist() {
-    // One entry a thread, besides "." and "..".
+    // One entry a thread, besides "." and "..". Those that only hand on what other processes send do not
+    // count.
     const std::unique_ptr<DIR, int (*)(DIR*)> threads(opendir("/proc/self/task"), &closedir);
     int entries = 0;
     while (threads && readdir(threads.get()))
         ++entries;
-    return entries > 3;
+    return entries > 3 + RemoteReaders();
 }
 
 // Marks the queue as inside its idle handler for as long as it lives.
@@ -61,12 +63,15 @@ WaitEnd WaitUnderManualClock(std::unique_lock<std::mutex>& lock, Session& sessio
         return WaitEnd::NothingWillCome;
     if (queue.idleHandler)
         return RunIdleHandler(lock, queue) ? WaitEnd::LookAgain : WaitEnd::NothingWillCome;
-    if (session.display && session.displayQueue == &queue)
-        WaitOnDisplay(lock, *session.display, -1);
-    else if (OtherThreadsExist())
-        queue.changed.wait(lock);
-    else
+    const bool onDisplay = session.display && session.displayQueue == &queue;
+    if (!onDisplay && !IsKnownElsewhere() && !OtherThreadsExist())
         return WaitEnd::NothingWillCome;
+    if (!ReadsRemoteMessages(lock))
+        return WaitEnd::LookAgain;
+    if (onDisplay)
+        WaitOnDisplay(lock, *session.display, -1);
+    else
+        queue.changed.wait(lock);
     return WaitEnd::LookAgain;
 }
 
@@ -75,6 +80,8 @@ WaitEnd WaitUnderManualClock(std::unique_lock<std::mutex>& lock, Session& sessio
 WaitEnd WaitForWork(std::unique_lock<std::mutex>& lock, Session& session, ThreadQueue& queue) {
     if (IsManualClock())
         return WaitUnderManualClock(lock, session, queue);
+    if (!ReadsRemoteMessages(lock))
+        return WaitEnd::LookAgain;
     const Timer* timer = queue.timers.Earliest();
     const Moment left = timer ? std::max<Moment>(timer->due - CurrentMoment(), 0) : 0;
     if (session.display && session.displayQueue == &queue)

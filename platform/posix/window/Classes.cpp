@@ -11,11 +11,11 @@ namespace {
 constexpr std::size_t kLongestName = 256;
 constexpr ATOM kLastAtom = 0xFFFF;
 
+}  // namespace
+
 bool IsAtom(LPCWSTR nameOrAtom) {
     return (reinterpret_cast<UINT_PTR>(nameOrAtom) >> 16) == 0;
 }
-
-}  // namespace
 
 const WindowClass* FindClass(const Session& session, LPCWSTR nameOrAtom) {
     const bool isAtom = IsAtom(nameOrAtom);

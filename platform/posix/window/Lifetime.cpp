@@ -1,16 +1,18 @@
 #include <algorithm>
+#include <chrono>
 
 #include "platform/posix/LastError.h"
 #include "platform/posix/queue/Send.h"
+#include "platform/posix/remote/RemoteWindows.h"
+#include "platform/posix/remote/receive/Station.h"
 #include "platform/posix/window/Classes.h"
-#include "platform/posix/window/RemoteWindows.h"
 
 namespace korvane {
 namespace {
 
 HWND NewHandle(Session& session) {
     do {
-        if (++session.lastHandle >= RemoteWindows::kHandleBit)
+        if (++session.lastHandle >= kRemoteHandleBit)
             session.lastHandle = 0x10001;
     } while (session.windows.count(session.lastHandle) != 0);
     return reinterpret_cast<HWND>(session.lastHandle);
@@ -41,9 +43,22 @@ bool BeginEnd(HWND handle) {
 
 void Remove(HWND handle) {
     Session& session = TheSession();
-    const std::lock_guard<std::mutex> lock(session.mutex);
-    if (Window* window = FindWindowOf(session, handle))
-        RemoveWindow(session, *window);
+    bool wasTopLevel = false;
+    {
+        const std::lock_guard<std::mutex> lock(session.mutex);
+        if (Window* window = FindWindowOf(session, handle)) {
+            wasTopLevel = (window->style & WS_CHILD) == 0;
+            RemoveWindow(session, *window);
+        }
+    }
+    if (wasTopLevel)
+        PublishWindows();
+}
+
+std::uint64_t SteadyNanoseconds() {
+    using std::chrono::steady_clock;
+    const auto now = steady_clock::now().time_since_epoch();
+    return static_cast<std::uint64_t>(std::chrono::duration_cast<std::chrono::nanoseconds>(now).count());
 }
 
 // What WM_CREATE may have done, such as making children, is undone as for any window.
@@ -90,6 +105,7 @@ HWND CreateWindowExW(DWORD exStyle, LPCWSTR className, LPCWSTR title, DWORD styl
         window->procedure = windowClass->procedure;
         window->title = title ? title : L"";
         window->parent = parent;
+        window->born = SteadyNanoseconds();
         window->style = style;
         window->x = x;
         window->y = y;
@@ -97,6 +113,8 @@ HWND CreateWindowExW(DWORD exStyle, LPCWSTR className, LPCWSTR title, DWORD styl
         window->height = height;
         session.windows.emplace(session.lastHandle, std::move(window));
     }
+    if ((style & WS_CHILD) == 0)
+        PublishWindows();
     const CREATESTRUCTW create{
         parameter, instance,  menu,   parent, height, width, y, x, static_cast<LONG>(style),
         title,     className, exStyle};
@@ -122,8 +140,8 @@ BOOL DestroyWindow(HWND window) {
 }
 
 BOOL IsWindow(HWND window) {
-    if (RemoteWindows* remote = window ? RemoteWindowsFor(window) : nullptr)
-        return remote->Exists(window);
+    if (IsRemoteHandle(window))
+        return NamesOfRemoteWindow(window).has_value();
     Session& session = TheSession();
     const std::lock_guard<std::mutex> lock(session.mutex);
     return FindWindowOf(session, window) != nullptr;

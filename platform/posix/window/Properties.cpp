@@ -1,9 +1,9 @@
 #include <algorithm>
 
-#include "platform/CaseFold.h"
 #include "platform/posix/LastError.h"
+#include "platform/posix/remote/RemoteWindows.h"
+#include "platform/posix/remote/receive/Station.h"
 #include "platform/posix/window/Classes.h"
-#include "platform/posix/window/RemoteWindows.h"
 
 namespace korvane {
 namespace {
@@ -18,12 +18,18 @@ int CopyText(const std::wstring& text, LPWSTR target, int capacity) {
 }
 
 LRESULT SetTitle(HWND handle, LPCWSTR text) {
+    const std::wstring title = text ? text : L"";
     Session& session = TheSession();
-    const std::lock_guard<std::mutex> lock(session.mutex);
-    Window* window = FindWindowOf(session, handle);
-    if (!window)
-        return Fail(ERROR_INVALID_WINDOW_HANDLE);
-    window->title = text ? text : L"";
+    {
+        const std::lock_guard<std::mutex> lock(session.mutex);
+        Window* window = FindWindowOf(session, handle);
+        if (!window)
+            return Fail(ERROR_INVALID_WINDOW_HANDLE);
+        if (window->title == title)
+            return TRUE;
+        window->title = title;
+    }
+    PublishWindows();
     return TRUE;
 }
 
@@ -90,34 +96,23 @@ int GetWindowTextW(HWND window, LPWSTR text, int capacity) {
     if (!text || capacity <= 0)
         return 0;
     text[0] = L'\0';
+    if (IsRemoteHandle(window)) {
+        const std::optional<RemoteWindowNames> names = NamesOfRemoteWindow(window);
+        return names ? CopyText(names->title, text, capacity) : Fail(ERROR_INVALID_WINDOW_HANDLE);
+    }
     return static_cast<int>(
         SendMessageW(window, WM_GETTEXT, static_cast<WPARAM>(capacity), reinterpret_cast<LPARAM>(text)));
 }
 
 int GetClassNameW(HWND window, LPWSTR name, int capacity) {
+    if (IsRemoteHandle(window)) {
+        const std::optional<RemoteWindowNames> names = NamesOfRemoteWindow(window);
+        return names ? CopyText(names->className, name, capacity) : Fail(ERROR_INVALID_WINDOW_HANDLE);
+    }
     Session& session = TheSession();
     const std::lock_guard<std::mutex> lock(session.mutex);
     const Window* found = FindWindowOf(session, window);
     return found ? CopyText(found->windowClass->name, name, capacity) : Fail(ERROR_INVALID_WINDOW_HANDLE);
-}
-
-HWND FindWindowW(LPCWSTR className, LPCWSTR title) {
-    Session& session = TheSession();
-    {
-        const std::lock_guard<std::mutex> lock(session.mutex);
-        const WindowClass* windowClass = className ? FindClass(session, className) : nullptr;
-        for (auto at = session.windows.rbegin(); at != session.windows.rend(); ++at) {
-            const Window& window = *at->second;
-            const bool classFits = !className || window.windowClass == windowClass;
-            if ((window.style & WS_CHILD) == 0 && classFits && (!title || EqualFolded(window.title, title)))
-                return window.handle;
-        }
-    }
-    RemoteWindows* remote = RemoteWindowsFor(nullptr);
-    const HWND found = remote ? remote->Find(className, title) : nullptr;
-    if (!found)
-        SetLastError(ERROR_FILE_NOT_FOUND);
-    return found;
 }
 
 LONG_PTR GetWindowLongPtrW(HWND window, int index) {
@@ -129,7 +124,7 @@ LONG_PTR GetWindowLongPtrW(HWND window, int index) {
 
 LONG_PTR SetWindowLongPtrW(HWND window, int index, LONG_PTR value) {
     Session& session = TheSession();
-    const std::lock_guard<std::mutex> lock(session.mutex);
+    std::unique_lock<std::mutex> lock(session.mutex);
     Window* found = FindWindowOf(session, window);
     if (!found)
         return Fail(ERROR_INVALID_WINDOW_HANDLE);
@@ -140,6 +135,9 @@ LONG_PTR SetWindowLongPtrW(HWND window, int index, LONG_PTR value) {
         found->style = static_cast<DWORD>(value);
     else if (index == GWLP_USERDATA)
         found->userData = value;
+    lock.unlock();
+    if (index == GWL_STYLE && ((before ^ value) & WS_CHILD) != 0)
+        PublishWindows();
     return before;
 }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "platform/posix/window/UpdateRect.h"
@@ -21,6 +22,7 @@ struct Window {
     WNDPROC procedure = nullptr;
     std::wstring title;
     HWND parent = nullptr;
+    std::uint64_t born = 0;  // nanoseconds of the machine's steady clock
     DWORD style = 0;
     LONG_PTR userData = 0;
     bool visible = false;

@@ -1,0 +1,56 @@
+#include "platform/posix/files/RuntimeFolder.h"
+
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace korvane {
+namespace {
+
+std::string AbsolutePathIn(const char* variable) {
+    const char* const value = std::getenv(variable);
+    return value && value[0] == '/' ? value : "";
+}
+
+std::string RuntimePath() {
+    if (std::getenv("KORVANE_RUNTIME_DIR"))
+        return AbsolutePathIn("KORVANE_RUNTIME_DIR");
+    const std::string session = AbsolutePathIn("XDG_RUNTIME_DIR");
+    return session.empty() ? "/tmp/korvane-" + std::to_string(geteuid()) : session + "/korvane";
+}
+
+bool IsPrivate(int folder) {
+    struct stat status {};
+    return fstat(folder, &status) == 0 && status.st_uid == geteuid() && (status.st_mode & 0077) == 0;
+}
+
+Descriptor OpenPrivate(int parent, const std::string& name, IfMissing ifMissing) {
+    if (name.empty())
+        return {};
+    // An existing folder is as good as a new one, so only the opening tells.
+    if (ifMissing == IfMissing::Make)
+        mkdirat(parent, name.c_str(), 0700);
+    Descriptor folder(openat(parent, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    if (folder.IsOpen() && !IsPrivate(folder.Number()))
+        folder.Close();
+    return folder;
+}
+
+}  // namespace
+
+RuntimeFolder::RuntimeFolder(const std::string& deviceKey, IfMissing ifMissing)
+    : deviceKey_(deviceKey), parent_(OpenPrivate(AT_FDCWD, RuntimePath(), ifMissing)) {
+    if (parent_.IsOpen())
+        folder_ = OpenPrivate(parent_.Number(), deviceKey_, ifMissing);
+}
+
+bool RuntimeFolder::IsRemoved() const {
+    struct stat status {};
+    return fstat(folder_.Number(), &status) != 0 || status.st_nlink == 0;
+}
+
+void RuntimeFolder::RemoveIfEmpty() const {
+    unlinkat(parent_.Number(), deviceKey_.c_str(), AT_REMOVEDIR);
+}
+
+}  // namespace korvane

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/posix/remote/RemoteHandle.h"
+
+namespace korvane {
+
+// The windows of other processes of the same user and device root, behind the calls that may name one. A
+// handle of theirs is worth something in this process only, names one window as long as that exists, and none
+// afterwards. Any thread may call these, without the session's mutex.
+
+/// The newest that fits, null when there is none. A null name fits everything. Its process then knows that
+/// somebody may send it messages.
+HWND FindRemoteWindow(LPCWSTR className, LPCWSTR title);
+
+/// All of them, the newest first.
+std::vector<HWND> RemoteWindows();
+
+struct RemoteWindowNames {
+    std::wstring className;
+    std::wstring title;
+};
+
+/// Nothing when the window does not exist any more.
+std::optional<RemoteWindowNames> NamesOfRemoteWindow(HWND window);
+
+/// Never waits. Messages from one thread to one process arrive in their order.
+bool PostToRemoteWindow(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+/// Answers what is sent to windows of the calling thread meanwhile. 0 when the process ends before it has
+/// answered, and after five seconds.
+LRESULT SendToRemoteWindow(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+}  // namespace korvane

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace korvane {
+
+// An endpoint is two files in the device's runtime folder: the list of its windows, locked by its process for
+// as long as that lives, and the socket that takes messages. The list comes first and goes last.
+
+/// 16 hexadecimal digits that no other endpoint has, now or later.
+std::string NewEndpointName();
+
+std::string ListFileOf(std::string_view endpoint);
+std::string SocketOf(std::string_view endpoint);
+
+/// The endpoint whose list the file is, empty for any other file.
+std::string_view EndpointOfListFile(std::string_view file);
+
+}  // namespace korvane

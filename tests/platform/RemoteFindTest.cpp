@@ -1,0 +1,201 @@
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tests/platform/PeerProcess.h"
+#include "tests/platform/TestWindow.h"
+
+namespace korvane {
+namespace {
+
+std::wstring TitleOf(HWND window) {
+    wchar_t title[256] = L"?";
+    GetWindowTextW(window, title, 256);
+    return title;
+}
+
+std::wstring ClassOf(HWND window) {
+    wchar_t name[256] = L"?";
+    GetClassNameW(window, name, 256);
+    return name;
+}
+
+BOOL CALLBACK AppendWindow(HWND window, LPARAM list) {
+    reinterpret_cast<std::vector<HWND>*>(list)->push_back(window);
+    return TRUE;
+}
+
+std::vector<HWND> ListWindows() {
+    std::vector<HWND> windows;
+    EXPECT_TRUE(EnumWindows(&AppendWindow, reinterpret_cast<LPARAM>(&windows)));
+    return windows;
+}
+
+TEST(WindowOfAnotherProcess, IsFoundByClassAndTitle) {
+    PeerProcess peer;
+    ASSERT_EQ(peer.Ask("window NavigRecive Main"), "ok");
+    const HWND window = FindWindowW(L"NavigRecive", L"Main");
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(FindWindowW(L"navigrecive", nullptr), window);
+    EXPECT_EQ(FindWindowW(nullptr, L"Main"), window);
+    EXPECT_EQ(FindWindowW(L"NavigRecive", L"Other"), nullptr);
+    EXPECT_EQ(FindWindowW(L"Other", L"Main"), nullptr);
+    EXPECT_EQ(FindWindowW(nullptr, L"Mai"), nullptr);
+    EXPECT_TRUE(IsWindow(window));
+}
+
+TEST(WindowOfAnotherProcess, TellsItsClassAndTitle) {
+    PeerProcess peer;
+    peer.Ask("window KorvaneScreen Zażółć");
+    const HWND window = FindWindowW(L"KorvaneScreen", nullptr);
+    EXPECT_EQ(ClassOf(window), L"KorvaneScreen");
+    EXPECT_EQ(TitleOf(window), L"Zażółć");
+    EXPECT_EQ(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0), 6);
+    wchar_t text[3];
+    EXPECT_EQ(GetWindowTextW(window, text, 3), 2);
+    EXPECT_STREQ(text, L"Za");
+}
+
+TEST(WindowOfAnotherProcess, IsFoundByEachNewTitle) {
+    PeerProcess peer;
+    peer.Ask("window Korvane.Peer before");
+    const HWND window = FindWindowW(nullptr, L"before");
+    peer.Ask("title 0 after");
+    EXPECT_EQ(FindWindowW(nullptr, L"before"), nullptr);
+    EXPECT_EQ(FindWindowW(nullptr, L"after"), window);
+    EXPECT_EQ(TitleOf(window), L"after");
+}
+
+TEST(WindowOfAnotherProcess, IsGoneOnceItIsDestroyed) {
+    PeerProcess peer;
+    peer.Ask("window Korvane.Peer first");
+    peer.Ask("window Korvane.Peer second");
+    const HWND first = FindWindowW(nullptr, L"first");
+    const HWND second = FindWindowW(nullptr, L"second");
+    peer.Ask("destroy 0");
+    EXPECT_EQ(FindWindowW(nullptr, L"first"), nullptr);
+    EXPECT_FALSE(IsWindow(first));
+    EXPECT_EQ(TitleOf(first), L"");
+    EXPECT_TRUE(IsWindow(second));
+    EXPECT_FALSE(PostMessageW(first, WM_APP, 0, 0));
+    EXPECT_EQ(GetLastError(), ERROR_INVALID_WINDOW_HANDLE);
+    EXPECT_EQ(SendMessageW(first, WM_APP, 0, 0), 0);
+}
+
+TEST(WindowOfAnotherProcess, KeepsItsHandle) {
+    PeerProcess peer;
+    peer.Ask("window Korvane.Peer one");
+    const HWND window = FindWindowW(nullptr, L"one");
+    peer.Ask("window Korvane.Peer two");
+    EXPECT_EQ(FindWindowW(nullptr, L"one"), window);
+    EXPECT_NE(FindWindowW(nullptr, L"two"), window);
+    const std::vector<HWND> listed = ListWindows();
+    EXPECT_EQ(std::count(listed.begin(), listed.end(), window), 1);
+}
+
+TEST(WindowOfAnotherProcess, ComesAfterThoseOfThisOne) {
+    TestWindow::Options options;
+    options.title = L"same";
+    const TestWindow own(options);
+    PeerProcess peer;
+    peer.Ask("window Korvane.Peer same");
+    EXPECT_EQ(FindWindowW(nullptr, L"same"), own.Handle());
+    EXPECT_NE(FindWindowW(L"Korvane.Peer", L"same"), own.Handle());
+}
+
+TEST(WindowOfAnotherProcess, IsTheNewestOfSeveral) {
+    PeerProcess older;
+    PeerProcess newer;
+    older.Ask("window Korvane.Peer same");
+    newer.Ask("window Korvane.Peer same");
+    const HWND second = FindWindowW(nullptr, L"same");
+    newer.Ask("destroy 0");
+    const HWND first = FindWindowW(nullptr, L"same");
+    EXPECT_NE(first, second);
+    EXPECT_TRUE(IsWindow(first));
+    older.Ask("window Korvane.Peer same");
+    EXPECT_NE(FindWindowW(nullptr, L"same"), first);
+}
+
+TEST(WindowOfAnotherProcess, IsFoundBothWays) {
+    TestWindow::Options options;
+    options.title = L"home";
+    const TestWindow own(options);
+    PeerProcess peer;
+    EXPECT_EQ(peer.Ask("find * home"), "Korvane.Test home");
+    EXPECT_EQ(peer.Ask("find Korvane.Test *"), "Korvane.Test home");
+    EXPECT_EQ(peer.Ask("find * away"), "none");
+}
+
+TEST(WindowOfAnotherProcess, CannotBeChangedFromHere) {
+    PeerProcess peer;
+    peer.Ask("window Korvane.Peer theirs");
+    const HWND window = FindWindowW(nullptr, L"theirs");
+    EXPECT_FALSE(DestroyWindow(window));
+    EXPECT_FALSE(SetWindowTextW(window, L"ours"));
+    EXPECT_EQ(SetTimer(window, 1, 100, nullptr), 0u);
+    MSG message{};
+    EXPECT_EQ(GetMessageW(&message, window, 0, 0), -1);
+    EXPECT_EQ(TitleOf(window), L"theirs");
+}
+
+TEST(EnumWindows, GivesTheTopLevelWindowsOfAllProcesses) {
+    PeerProcess older;
+    PeerProcess newer;
+    older.Ask("window Korvane.Peer a");
+    newer.Ask("window Korvane.Peer b");
+    older.Ask("window Korvane.Peer c");
+    TestWindow::Options options;
+    options.title = L"own";
+    const TestWindow own(options);
+    options.title = L"child";
+    options.parent = own.Handle();
+    options.style = WS_CHILD;
+    const TestWindow child(options);
+    std::wstring titles;
+    for (const HWND window : ListWindows())
+        titles += TitleOf(window) + L' ';
+    EXPECT_EQ(titles, L"own c b a ");
+    EXPECT_EQ(newer.Ask("list"), "[Korvane.Peer b][Korvane.Test own][Korvane.Peer c][Korvane.Peer a]");
+}
+
+TEST(EnumWindows, EndsWhenItsProcedureSaysSo) {
+    const TestWindow first;
+    const TestWindow second;
+    int seen = 0;
+    const WNDENUMPROC procedure = [](HWND, LPARAM count) -> BOOL {
+        ++*reinterpret_cast<int*>(count);
+        return FALSE;
+    };
+    EXPECT_FALSE(EnumWindows(procedure, reinterpret_cast<LPARAM>(&seen)));
+    EXPECT_EQ(seen, 1);
+    EXPECT_FALSE(EnumWindows(nullptr, 0));
+}
+
+TEST(EnumWindows, LeavesOutWhatItsProcedureDestroys) {
+    static std::unique_ptr<TestWindow> windows[2];
+    for (auto& window : windows)
+        window = std::make_unique<TestWindow>();
+    int seen = 0;
+    const WNDENUMPROC procedure = [](HWND, LPARAM count) -> BOOL {
+        ++*reinterpret_cast<int*>(count);
+        windows[0].reset();
+        return TRUE;
+    };
+    EXPECT_TRUE(EnumWindows(procedure, reinterpret_cast<LPARAM>(&seen)));
+    EXPECT_EQ(seen, 1);
+    windows[1].reset();
+}
+
+TEST(EnumWindows, GivesManyWindows) {
+    PeerProcess peer;
+    peer.Ask("windows Korvane.Peer 500");
+    EXPECT_EQ(ListWindows().size(), 500u);
+    for (const wchar_t* title : {L"0", L"250", L"499"})
+        EXPECT_EQ(TitleOf(FindWindowW(nullptr, title)), title);
+}
+
+}  // namespace
+}  // namespace korvane
