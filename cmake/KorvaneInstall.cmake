@@ -30,7 +30,8 @@ endfunction()
 set(header_dir "${CMAKE_INSTALL_INCLUDEDIR}/korvaneex")
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/KorvaneEx")
 
-korvane_reached_headers(headers KorvaneEx.h platform/Display.h platform/Simulation.h)
+korvane_reached_headers(headers KorvaneEx.h platform/Display.h platform/Simulation.h service/SysInfoService.h
+                        sysinfo/SysInfoFields.h)
 foreach(header IN LISTS headers)
   get_filename_component(folder "${header}" DIRECTORY)
   install(FILES "${PROJECT_SOURCE_DIR}/${header}" DESTINATION "${header_dir}/${folder}")
