@@ -1,9 +1,11 @@
+#include <csignal>
 #include <string>
 #include <vector>
 
 #include "sysinfo/SysInfoFields.h"
 
 #include "tests/service/ServiceDevice.h"
+#include "tests/support/ForkedProcess.h"
 
 namespace korvane::test {
 namespace {
@@ -93,11 +95,69 @@ TEST_F(Announcement, LeavesOtherWindowsAlone) {
     DestroyWindow(other);
 }
 
+TEST_F(Announcement, ReachesEveryScreen) {
+    const HWND second = Open(L"KorvaneScreen", L"Another");
+    EXPECT_EQ(setSetupValue(L"mute", 1), 1);
+    EXPECT_EQ(ItemsAt(screen), Items{5});
+    EXPECT_EQ(ItemsAt(second), Items{5});
+    DestroyWindow(second);
+}
+
 TEST_F(Announcement, NeedsNobodyToListen) {
     DestroyWindow(screen);
     DestroyWindow(main);
     EXPECT_EQ(setSetupValue(L"mute", 1), 1);
     EXPECT_EQ(getSysInfo()->mute, 1);
+}
+
+/// A device on which the windows are those of other processes.
+class AnnouncementElsewhere : public ServiceDevice {
+  protected:
+    /// Opens a window of the class and returns, as its exit code, the item that it is told of first.
+    static int Listen(const wchar_t* windowClass, const Gate& listening) {
+        WNDCLASSW description = {};
+        description.lpfnWndProc = &DefWindowProcW;
+        description.lpszClassName = windowClass;
+        RegisterClassW(&description);
+        const HWND window = CreateWindowExW(0, windowClass, windowClass, WS_POPUP, 0, 0, 10, 10, nullptr,
+                                            nullptr, nullptr, nullptr);
+        if (!window)
+            return 255;
+        listening.Open();
+        MSG msg = {};
+        while (GetMessageW(&msg, window, 0, 0) > 0) {
+            if (msg.message == kSysInfoChanged)
+                return static_cast<int>(msg.wParam);
+        }
+        return 254;
+    }
+};
+
+TEST_F(AnnouncementElsewhere, ReachesScreensAndTheMainApplicationInTheirProcesses) {
+    const Gate listening;
+    ForkedProcess screen([&listening] { return Listen(L"KorvaneScreen", listening); });
+    ForkedProcess second([&listening] { return Listen(L"KorvaneScreen", listening); });
+    ForkedProcess main([&listening] { return Listen(L"NavigRecive", listening); });
+    ForkedProcess other([&listening] { return Listen(L"Other", listening); });
+    for (int i = 0; i < 4; ++i)
+        ASSERT_TRUE(listening.Wait());
+    EXPECT_EQ(setSetupValue(L"taActive", 1), 1);
+    EXPECT_EQ(screen.Wait(), 15);
+    EXPECT_EQ(second.Wait(), 15);
+    EXPECT_EQ(main.Wait(), 15);
+    other.Kill();
+    EXPECT_EQ(other.Wait(), -SIGKILL) << "it was told nothing";
+}
+
+TEST_F(AnnouncementElsewhere, IsNotHeldUpByAProcessThatWasKilled) {
+    const Gate listening;
+    ForkedProcess dead([&listening] { return Listen(L"KorvaneScreen", listening); });
+    ASSERT_TRUE(listening.Wait());
+    dead.Kill();
+    ForkedProcess screen([&listening] { return Listen(L"KorvaneScreen", listening); });
+    ASSERT_TRUE(listening.Wait());
+    EXPECT_EQ(setSetupValue(L"mute", 1), 1);
+    EXPECT_EQ(screen.Wait(), 5);
 }
 
 }  // namespace
