@@ -43,7 +43,6 @@ void CLQTitleDialog::BuildTitle() {
 void CLQTitleDialog::FindTitleControls() {
     CLQGroupCtrl& title = *m_pGpTitle;
     m_pStInfo = FindCtrlOfClass<CLQStatic>(title, L"StInfo");
-    m_nInfoWidth = 0;
     if (m_pStInfo) {
         int height;
         m_pStInfo->GetSize(m_nInfoWidth, height);

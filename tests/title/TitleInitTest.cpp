@@ -41,10 +41,22 @@ TEST_F(TitleInit, MayBeRepeated) {
     EXPECT_EQ(ImageSeenAt(L"StInfo"), "");
     dialog->SetTitleBackBtnShow(false);
     EXPECT_NE(ImageSeenAt(L"IconAF"), "") << "the search goes on";
-    dialog->SetTitleInfo(L"Station one", false, 0);
+    Find<CLQStatic>(L"StInfo")->SetText(L"Put there by the application");
     scene.Advance(3000);
-    EXPECT_EQ(dialog->GetTitleInfo(), L"Station one") << "the time-out ended with the earlier strip";
+    EXPECT_EQ(dialog->GetTitleInfo(), L"Put there by the application")
+        << "the time-out ended with the earlier strip";
     ExerciseStrip(*dialog, scene);
+}
+
+TEST_F(TitleInit, ForgetsTheImageOfAnEarlierStrip) {
+    TitleLayout layout;
+    layout.properties["StInfo"] = "background=strip.lqi";
+    WriteTitleLayout(layout);
+    Start();
+    dialog->SetTitleIcon(L"cover.lqi", 0);
+    ASSERT_TRUE(dialog->OnInit());
+    dialog->SetTitleInfo(L"", false, 0);
+    EXPECT_EQ(ImageSeenAt(L"StInfo"), "strip.lqi") << "which is not the title's";
 }
 
 TEST_F(TitleInit, MayLoadAnotherLayoutTheNextTime) {
