@@ -57,6 +57,22 @@ TEST_F(CompiledLayout, GoesBackIntoAText) {
     EXPECT_FALSE(DecompileLayout(empty, text));
 }
 
+TEST_F(CompiledLayout, BoundsTheTextsThatCopiesOfASectionHave) {
+    std::string text = "[Layout]\nkind=group\nchildren=a";
+    for (int i = 0; i < 200; ++i)
+        text += i % 2 ? ",a" : ",A";
+    const std::string controls = "\n[a]\nkind=image\n";
+    WriteIni(text + controls);
+    EXPECT_TRUE(CompileLayout(ini, blob, problem)) << problem.message;
+    EXPECT_EQ(blob.GetRecordCount(), 202);
+    blob = CLQMemBlob();
+    std::string comments;
+    while (comments.size() < 400000)
+        comments += "; as long as a text can get\n";
+    ExpectProblem(text + controls + comments, L"a");
+    EXPECT_EQ(problem.message, "too many copies of a section");
+}
+
 TEST_F(CompiledLayout, TellsWhichSectionIsWrong) {
     ExpectProblem("", L"Layout");
     ExpectProblem("[Layout]\nkind=static\n", L"Layout");

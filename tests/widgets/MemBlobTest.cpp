@@ -152,6 +152,30 @@ TEST(MemBlob, WritesNoFileBeyondItsGreatestSize) {
     EXPECT_FALSE(blob.SaveFile(L"\\toolarge.bin"));
 }
 
+TEST(MemBlob, BoundsTheTextsThatItsControlsWillHave) {
+    CLQMemBlob blob;
+    ASSERT_TRUE(blob.BeginRecord(0, kKindGroup));
+    const std::wstring longText(CLQMemBlob::kMaxText, L'x');
+    // As many properties as fit name the same text.
+    for (int i = 0; i < 64; ++i)
+        ASSERT_TRUE(blob.SetText(0, L"t" + std::to_wstring(i), longText));
+    const std::vector<unsigned char> full = blob.ToBytes();
+    EXPECT_TRUE(Loads(full));
+    ASSERT_TRUE(blob.SetText(0, L"t64", longText));
+    EXPECT_TRUE(blob.ToBytes().empty());
+
+    // A number that is made a text afterwards, so that the file says more than could be written.
+    ASSERT_TRUE(blob.SetNumber(0, L"t64", 1));
+    std::vector<unsigned char> bytes = blob.ToBytes();
+    ASSERT_FALSE(bytes.empty());
+    bytes[bytes.size() - 6] = 2;
+    Seal(bytes);
+    EXPECT_TRUE(Loads(bytes)) << "string 1 is short";
+    bytes[bytes.size() - 4] = 0;
+    Seal(bytes);
+    EXPECT_FALSE(Loads(bytes)) << "string 0 is the long one";
+}
+
 TEST(MemBlob, SurvivesTheWayThroughItsBytes) {
     const std::vector<unsigned char> bytes = Sample().ToBytes();
     CLQMemBlob blob;

@@ -1,5 +1,10 @@
 #include "engine/widgets/layout/IniTree.h"
 
+#include <cstddef>
+#include <set>
+
+#include "engine/system/IniReadWrite.h"
+#include "engine/system/IniText.h"
 #include "engine/widgets/layout/CtrlFactory.h"
 #include "engine/widgets/layout/IniArchive.h"
 #include "engine/widgets/layout/MemBlob.h"
@@ -8,6 +13,11 @@
 namespace korvane {
 
 namespace {
+
+/// What copies of sections may add up to, in bytes of the whole text for each.
+constexpr std::size_t kMaxCopiedText = std::size_t{64} * 1024 * 1024;
+/// So many copies stay below that whatever the text.
+constexpr std::size_t kHarmlessCopies = 64;
 
 class TreeCheck {
   public:
@@ -19,6 +29,8 @@ class TreeCheck {
             return Report(section, "groups are nested too deeply, or in a circle");
         if (++count_ > CLQMemBlob::kMaxRecords)
             return Report(section, "too many controls");
+        if (!visited_.insert(FoldIniName(section)).second && !IsCopyBounded())
+            return Report(section, "too many copies of a section");
         IniArchive archive(ini_, section.c_str(), true);
         if (rule_ == LayoutRule::Complete && !IsComplete(archive.Kind(), section))
             return false;
@@ -30,6 +42,15 @@ class TreeCheck {
     }
 
   private:
+    /// A section that is named again makes a control with all texts of the first.
+    bool IsCopyBounded() {
+        if (++copies_ <= kHarmlessCopies)
+            return true;
+        if (textSize_ == 0)
+            textSize_ = ini_.GetContents().size();
+        return copies_ * textSize_ <= kMaxCopiedText;
+    }
+
     bool IsComplete(int kind, const std::wstring& section) {
         if (kind < 0)
             return Report(section, "no such section, or its kind is missing or unknown");
@@ -45,6 +66,9 @@ class TreeCheck {
     LayoutRule rule_;
     LayoutProblem& problem_;
     int count_ = 0;
+    std::set<std::wstring> visited_;  ///< folded, as names are compared
+    std::size_t copies_ = 0;
+    std::size_t textSize_ = 0;
 };
 
 }  // namespace

@@ -21,6 +21,9 @@ class KORVANE_API CLQMemBlob {
     static constexpr int kMaxStrings = 65535;       ///< different keys and texts
     static constexpr std::size_t kMaxText = 65535;  ///< bytes of one in UTF-8
     static constexpr std::size_t kMaxFileSize = std::size_t{4} * 1024 * 1024;
+    /// Bytes of the texts of all properties in UTF-8. A text that many properties name is stored once, but
+    /// each control that is loaded has its own.
+    static constexpr std::size_t kMaxNamedText = kMaxFileSize;
 
     int GetRecordCount() const { return static_cast<int>(m_vecRecords.size()); }
     /// The kind of a record; -1 outside 0 to count - 1.
@@ -47,7 +50,7 @@ class KORVANE_API CLQMemBlob {
     bool GetText(int index, const std::wstring& key, std::wstring& value) const;
     bool GetColor(int index, const std::wstring& key, std::uint32_t& value) const;
 
-    /// The contents of a layout file; empty when they would be larger than kMaxFileSize.
+    /// The contents of a layout file; empty when they would exceed kMaxFileSize or kMaxNamedText.
     std::vector<unsigned char> ToBytes() const;
     /// Takes such contents over. False, leaving the blob as it is, when they are damaged in any way.
     bool FromBytes(const unsigned char* bytes, std::size_t size);
@@ -75,6 +78,8 @@ class KORVANE_API CLQMemBlob {
     bool HasRecord(int index) const { return index >= 0 && index < GetRecordCount(); }
     bool AppendRecord(int kind, int parent);
     int Intern(const std::wstring& text);
+    /// Whether the texts, whose sizes are given, keep to kMaxNamedText.
+    bool IsTextBounded(const std::vector<std::size_t>& textSizes) const;
     bool Store(int index, const std::wstring& key, Type type, std::uint32_t value);
     const Property* Find(int index, const std::wstring& key, Type type) const;
 

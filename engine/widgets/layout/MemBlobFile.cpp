@@ -80,6 +80,19 @@ class Reader {
 
 }  // namespace
 
+bool CLQMemBlob::IsTextBounded(const std::vector<std::size_t>& textSizes) const {
+    std::size_t sum = 0;
+    for (const Record& record : m_vecRecords) {
+        for (const Property& property : record.properties) {
+            if (property.type == Type::Text)
+                sum += textSizes[property.value];
+            if (sum > kMaxNamedText)
+                return false;
+        }
+    }
+    return true;
+}
+
 std::vector<unsigned char> CLQMemBlob::ToBytes() const {
     std::vector<unsigned char> bytes(kMagic, kMagic + sizeof(kMagic));
     Put32(bytes, kVersion);
@@ -93,8 +106,10 @@ std::vector<unsigned char> CLQMemBlob::ToBytes() const {
     Put32(bytes, propertyCount);
     Put32(bytes, 0);
 
+    std::vector<std::size_t> textSizes;
     for (const std::wstring& text : m_vecStrings) {
         const std::string utf8 = korvane::ToUtf8(text);
+        textSizes.push_back(utf8.size());
         if (bytes.size() + utf8.size() > kMaxFileSize)
             return {};
         Put16(bytes, static_cast<std::uint32_t>(utf8.size()));
@@ -105,7 +120,7 @@ std::vector<unsigned char> CLQMemBlob::ToBytes() const {
         Put32(bytes, static_cast<std::uint32_t>(record.parent));
         Put32(bytes, static_cast<std::uint32_t>(record.properties.size()));
     }
-    if (bytes.size() + propertyCount * kPropertySize > kMaxFileSize)
+    if (bytes.size() + propertyCount * kPropertySize > kMaxFileSize || !IsTextBounded(textSizes))
         return {};
     for (const Record& record : m_vecRecords) {
         for (const Property& property : record.properties) {
@@ -136,9 +151,11 @@ bool CLQMemBlob::FromBytes(const unsigned char* bytes, std::size_t size) {
         return false;
 
     CLQMemBlob loaded;
+    std::vector<std::size_t> textSizes;
     for (std::uint32_t i = 0; i < stringCount; ++i) {
         const std::size_t length = reader.Get16();
         const std::string utf8 = reader.GetString(length);
+        textSizes.push_back(length);
         // Each string stands there once, and as it would be written.
         const std::wstring text = korvane::FromUtf8(utf8);
         if (reader.Failed() || korvane::ToUtf8(text) != utf8 || loaded.Intern(text) != static_cast<int>(i))
@@ -175,6 +192,8 @@ bool CLQMemBlob::FromBytes(const unsigned char* bytes, std::size_t size) {
                 return false;
         }
     }
+    if (!loaded.IsTextBounded(textSizes))
+        return false;
     *this = std::move(loaded);
     return true;
 }
