@@ -47,10 +47,24 @@ LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
             return MAKELPARAM(screen->GetWidth(), screen->GetHeight());
         case tools::kRequestPicture:
             CatchUp();
+            // Where messages keep coming, the loop paints late.
+            screen->Paint();
             return SavePicture(tools::PictureFile(wParam).c_str());
         default:
             return DefWindowProcW(window, message, wParam, lParam);
     }
+}
+
+/// Pictures that nobody has fetched, since who asked for them was killed.
+void RemoveOldPictures() {
+    WIN32_FIND_DATAW found;
+    const HANDLE search = FindFirstFileW(L"\\Temp\\HeadUnit-*.lqi", &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return;
+    do {
+        DeleteFileW((std::wstring(L"\\Temp\\") + found.cFileName).c_str());
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
 }
 
 bool RegisterRemoteClass() {
@@ -75,9 +89,11 @@ bool RemoteControl::IsTaken() {
 }
 
 void RemoteControl::Open() {
-    if (!window_ && RegisterRemoteClass())
-        window_ = CreateWindowExW(0, tools::kHeadUnitClass, tools::kHeadUnitClass, WS_POPUP, 0, 0, 0, 0,
-                                  nullptr, nullptr, nullptr, nullptr);
+    if (window_ || !RegisterRemoteClass())
+        return;
+    RemoveOldPictures();
+    window_ = CreateWindowExW(0, tools::kHeadUnitClass, tools::kHeadUnitClass, WS_POPUP, 0, 0, 0, 0, nullptr,
+                              nullptr, nullptr, nullptr);
 }
 
 }  // namespace korvane::demo

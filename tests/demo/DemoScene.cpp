@@ -15,28 +15,30 @@ namespace fs = std::filesystem;
 
 constexpr char kApplication[] = "NandFlash/Application";
 
-/// Whether a control that is shown and satisfies the predicate lies in this window or group, at any depth.
+using Predicate = std::function<bool(CLQBaseCtrl&)>;
+
+/// The first control of a window or group, at any depth, that is shown and satisfies the predicate.
 template <class Owner>
-bool Holds(Owner& owner, const std::function<bool(CLQBaseCtrl&)>& predicate) {
+CLQBaseCtrl* FindIn(Owner& owner, const Predicate& predicate) {
     for (int i = 0; i < owner.GetChildCount(); ++i) {
         CLQBaseCtrl* const child = owner.GetChild(i);
         if (child->IsOwnerShow() && predicate(*child))
-            return true;
+            return child;
         auto* const group = dynamic_cast<CLQGroupCtrl*>(child);
-        if (group && Holds(*group, predicate))
-            return true;
+        if (CLQBaseCtrl* const found = group ? FindIn(*group, predicate) : nullptr)
+            return found;
     }
-    return false;
+    return nullptr;
 }
 
-bool ScreenHolds(const std::function<bool(CLQBaseCtrl&)>& predicate) {
+CLQBaseCtrl* FindOnScreen(const Predicate& predicate) {
     CLQScreen* const screen = CLQScreen::GetInstance();
     for (int i = 0; i < screen->GetWindowCount(); ++i) {
         CLQWindow* const window = screen->GetWindow(i);
-        if (window->IsShow() && Holds(*window, predicate))
-            return true;
+        if (CLQBaseCtrl* const found = window->IsShow() ? FindIn(*window, predicate) : nullptr)
+            return found;
     }
-    return false;
+    return nullptr;
 }
 
 }  // namespace
@@ -59,14 +61,14 @@ DemoScene::~DemoScene() {
 }
 
 bool DemoScene::Shows(const std::wstring& text) const {
-    return ScreenHolds([&text](CLQBaseCtrl& ctrl) {
-        auto* const label = dynamic_cast<CLQStatic*>(&ctrl);
-        return label && label->GetText() == text;
-    });
+    return FindOnScreen([&text](CLQBaseCtrl& ctrl) {
+               auto* const label = dynamic_cast<CLQStatic*>(&ctrl);
+               return label && label->GetText() == text;
+           }) != nullptr;
 }
 
-bool DemoScene::ShowsControl(const wchar_t* name) const {
-    return ScreenHolds([name](CLQBaseCtrl& ctrl) { return ctrl.GetCtrlName() == name; });
+CLQBaseCtrl* DemoScene::FindControl(const wchar_t* name) const {
+    return FindOnScreen([name](CLQBaseCtrl& ctrl) { return ctrl.GetCtrlName() == name; });
 }
 
 }  // namespace korvane::test

@@ -15,8 +15,9 @@ class DemoScene : public Scene {
 
     /// Whether a label that is shown, on any window, has this text.
     bool Shows(const std::wstring& text) const;
-    /// Whether a control of that name is shown on any window.
-    bool ShowsControl(const wchar_t* name) const;
+    /// A control of that name that is shown, on any window; null without one.
+    CLQBaseCtrl* FindControl(const wchar_t* name) const;
+    bool ShowsControl(const wchar_t* name) const { return FindControl(name) != nullptr; }
 
     void Touch(int x, int y) {
         Press(x, y);

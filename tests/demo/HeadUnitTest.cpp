@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <optional>
 #include <string>
@@ -52,6 +53,13 @@ class HeadUnitTest : public testing::Test {
         Touch(ShortcutButton(number));
     }
     bool ShowsRadio() { return scene_.Shows(L"87.5"); }
+    /// The caption of a shortcut button, by its number from the left.
+    std::wstring ShortcutCaption(int number) {
+        auto* const button =
+            dynamic_cast<CLQButton*>(scene_.FindControl((L"ShortCutBtn" + std::to_wstring(number)).c_str()));
+        auto* const caption = button ? dynamic_cast<CLQTextElement*>(button->GetGUIElement(1)) : nullptr;
+        return caption ? caption->GetText() : L"";
+    }
     bool ShowsPanel() { return scene_.ShowsControl(L"ShortCutBtn1"); }
 
     test::DemoScene scene_;
@@ -90,6 +98,25 @@ TEST_F(HeadUnitTest, OpensTheShortcutsAndClosesThemAgain) {
     EXPECT_FALSE(ShowsPanel());
     EXPECT_FALSE(scene_.ShowsControl(L"Button_shortcutback"));
     EXPECT_TRUE(ShowsRadio());
+}
+
+TEST_F(HeadUnitTest, NamesTheShortcutsAsTheFactoryHasThem) {
+    Touch(kSourcesButton);
+    EXPECT_EQ(ShortcutCaption(1), L"Radio");
+    EXPECT_EQ(ShortcutCaption(2), L"Disc");
+    EXPECT_EQ(ShortcutCaption(5), L"Navigation");
+    Set(L"language", 5);
+    EXPECT_EQ(ShortcutCaption(3),
+              CLQLangManager::GetInstance()->GetString(L"settings_shortcut_menu_usb_audio"));
+}
+
+TEST_F(HeadUnitTest, NamesAShortcutThatTheUserChose) {
+    CLQIniReadWrite shortcuts;
+    shortcuts.SetFileName(L"\\NandFlash\\Data\\ShortCut.ini");
+    shortcuts.SetValue(L"ShortCut", L"4", 18, true);
+    shortcuts.Update();
+    Touch(kSourcesButton);
+    EXPECT_EQ(ShortcutCaption(4), L"TV");
 }
 
 TEST_F(HeadUnitTest, SwitchesToTheSourceOfAShortcut) {
@@ -169,6 +196,36 @@ TEST_F(HeadUnitTest, SwitchesTheZoneAndBack) {
     EXPECT_TRUE(scene_.ShowsControl(L"BtnToRear"));
 }
 
+TEST_F(HeadUnitTest, TellsForThreeSecondsInWhichZoneItPlays) {
+    Touch(kZoneButton);
+    EXPECT_TRUE(scene_.Shows(L"Rear seats"));
+    scene_.Advance(3 * kSecondMs - 1);
+    EXPECT_TRUE(scene_.Shows(L"Rear seats"));
+    scene_.Advance(1);
+    EXPECT_FALSE(scene_.Shows(L"Rear seats"));
+    scene_.Advance(kSecondMs);
+    EXPECT_TRUE(scene_.Shows(L"Radio"));
+}
+
+TEST_F(HeadUnitTest, ShowsAPictureInPlaceOfTheTitleWhenAPhoneComes) {
+    Set(L"btState", 2);
+    EXPECT_TRUE(scene_.Shows(L"Radio")) << "the phone was there before";
+    Set(L"btState", 0);
+    EXPECT_TRUE(scene_.Shows(L"Radio"));
+    Set(L"btState", 1);
+    EXPECT_FALSE(scene_.Shows(L"Radio"));
+    scene_.Advance(4 * kSecondMs);
+    EXPECT_TRUE(scene_.Shows(L"Radio"));
+}
+
+TEST_F(HeadUnitTest, DropsANoticeForTheTitleOfANewSource) {
+    Touch(kZoneButton);
+    Set(L"source", 4);
+    EXPECT_FALSE(scene_.Shows(L"Rear seats"));
+    scene_.Advance(4 * kSecondMs);
+    EXPECT_TRUE(scene_.Shows(L"Disc"));
+}
+
 TEST_F(HeadUnitTest, EndsATrafficAnnouncementWithItsButton) {
     Set(L"taActive", 1);
     Touch(kTrafficCancelButton);
@@ -190,6 +247,37 @@ TEST_F(HeadUnitTest, PaintsNothingWhileNothingHappens) {
     CLQScreen::GetInstance()->ResetCounters();
     scene_.Advance(30 * kSecondMs);
     EXPECT_EQ(CLQScreen::GetInstance()->GetCounters().paints, 0u);
+}
+
+TEST(HeadUnitWithoutMuch, ComesUpWithoutTheServiceAndTheMainApplication) {
+    test::DemoScene scene;
+    std::filesystem::remove_all(scene.DeviceFolder() / "NandFlash/Application/Bin");
+    HeadUnit headUnit;
+    headUnit.Create(0, 0);
+    scene.Pump();
+    EXPECT_TRUE(scene.Shows(L"Radio"));
+    EXPECT_FALSE(scene.ShowsControl(L"IconGPS"));
+    scene.Touch(kSourcesButton.x, kSourcesButton.y);
+    EXPECT_TRUE(scene.ShowsControl(L"ShortCutBtn1"));
+    scene.Touch(ShortcutButton(1).x, ShortcutButton(1).y);
+    EXPECT_FALSE(scene.ShowsControl(L"ShortCutBtn1"));
+}
+
+TEST(HeadUnitWithoutMuch, ComesUpWithoutLayoutsAndLanguages) {
+    test::DemoScene scene;
+    for (const char* const folder : {"Layout", "Language"})
+        std::filesystem::remove(scene.DeviceFolder() / "NandFlash/Application/Resource" / folder);
+    MainApplication mainApplication(MainApplication::KeyBeep::Silent);
+    ASSERT_TRUE(mainApplication.Start());
+    HeadUnit headUnit;
+    headUnit.Create(0, 0);
+    scene.Pump();
+    EXPECT_TRUE(scene.Shows(L"87.5"));
+    scene.Touch(kSourcesButton.x, kSourcesButton.y);
+    tools::SystemService service;
+    ASSERT_TRUE(service.SetValue(L"source", 4));
+    scene.Pump();
+    EXPECT_FALSE(scene.Shows(L"87.5"));
 }
 
 }  // namespace korvane::demo
