@@ -1,4 +1,5 @@
 #include <fstream>
+#include <ostream>
 #include <sstream>
 
 #include "engine/Korvane.h"
@@ -32,9 +33,14 @@ class ShortcutConfig : public TestPanel {
 };
 
 struct FactoryList {
+    const char* name;
     const char* text;
     Entries entries;
 };
+
+std::ostream& operator<<(std::ostream& stream, const FactoryList& list) {
+    return stream << list.name;
+}
 
 class ShortcutFactoryList : public ShortcutConfig, public testing::WithParamInterface<FactoryList> {};
 
@@ -44,31 +50,34 @@ TEST_P(ShortcutFactoryList, GivesTheButtonsTheirFirstSources) {
     EXPECT_EQ(StoredIds(), GetParam().entries) << GetParam().text;
 }
 
-INSTANTIATE_TEST_SUITE_P(AllForms, ShortcutFactoryList,
-                         testing::Values(FactoryList{"0,4,17,12,18", {"0", "4", "17", "12", "18"}},
-                                         FactoryList{"37,35,15,8,6", {"37", "35", "15", "8", "6"}},
-                                         FactoryList{"13,14", {"13", "14", "-1", "-1", "-1"}},
-                                         // A comma ends an id, and what is empty behind it is none.
-                                         FactoryList{"5,", {"5", "-1", "-1", "-1", "-1"}},
-                                         FactoryList{"1,2,3,4,", {"1", "2", "3", "4", "-1"}},
-                                         FactoryList{"1,2,3,4,5,", {"1", "2", "3", "4", "5"}},
-                                         // A single id without a comma is the second button's.
-                                         FactoryList{"7", {"-1", "7", "-1", "-1", "-1"}},
-                                         FactoryList{"none", {"-1", "0", "-1", "-1", "-1"}},
-                                         FactoryList{"", {"-1", "-1", "-1", "-1", "-1"}},
-                                         // An empty id in front of a comma is 0.
-                                         FactoryList{",", {"0", "-1", "-1", "-1", "-1"}},
-                                         FactoryList{",9", {"0", "9", "-1", "-1", "-1"}},
-                                         FactoryList{",,,", {"0", "0", "0", "-1", "-1"}},
-                                         // Five buttons, no more.
-                                         FactoryList{"1,2,3,4,5,6", {"1", "2", "3", "4", "5"}},
-                                         FactoryList{"1,2,3,4,5,6,7,8,9,10", {"1", "2", "3", "4", "5"}},
-                                         FactoryList{",,,,,,,,,,", {"0", "0", "0", "0", "0"}},
-                                         // An id is the number at the beginning.
-                                         FactoryList{" 8 ,\t9x,x9,-3,+6", {"8", "9", "0", "-3", "6"}},
-                                         FactoryList{"0x11,1 2,3.9", {"0", "1", "3", "-1", "-1"}},
-                                         FactoryList{"99999999999999,-99999999999999,300",
-                                                     {"2147483647", "-2147483648", "300", "-1", "-1"}}));
+INSTANTIATE_TEST_SUITE_P(
+    Of, ShortcutFactoryList,
+    testing::Values(FactoryList{"FiveIds", "0,4,17,12,18", {"0", "4", "17", "12", "18"}},
+                    FactoryList{"FiveOtherIds", "37,35,15,8,6", {"37", "35", "15", "8", "6"}},
+                    FactoryList{"TwoIds", "13,14", {"13", "14", "-1", "-1", "-1"}},
+                    // A comma ends an id, and what is empty behind it is none.
+                    FactoryList{"OneIdWithComma", "5,", {"5", "-1", "-1", "-1", "-1"}},
+                    FactoryList{"FourIdsWithComma", "1,2,3,4,", {"1", "2", "3", "4", "-1"}},
+                    FactoryList{"FiveIdsWithComma", "1,2,3,4,5,", {"1", "2", "3", "4", "5"}},
+                    // A single id without a comma is the second button's.
+                    FactoryList{"OneIdWithoutComma", "7", {"-1", "7", "-1", "-1", "-1"}},
+                    FactoryList{"OneWord", "none", {"-1", "0", "-1", "-1", "-1"}},
+                    FactoryList{"Nothing", "", {"-1", "-1", "-1", "-1", "-1"}},
+                    // An empty id in front of a comma is 0.
+                    FactoryList{"OneComma", ",", {"0", "-1", "-1", "-1", "-1"}},
+                    FactoryList{"CommaInFront", ",9", {"0", "9", "-1", "-1", "-1"}},
+                    FactoryList{"ThreeCommas", ",,,", {"0", "0", "0", "-1", "-1"}},
+                    // Five buttons, no more.
+                    FactoryList{"SixIds", "1,2,3,4,5,6", {"1", "2", "3", "4", "5"}},
+                    FactoryList{"TenIds", "1,2,3,4,5,6,7,8,9,10", {"1", "2", "3", "4", "5"}},
+                    FactoryList{"TenCommas", ",,,,,,,,,,", {"0", "0", "0", "0", "0"}},
+                    // An id is the number at the beginning.
+                    FactoryList{"BlanksAndSigns", " 8 ,\t9x,x9,-3,+6", {"8", "9", "0", "-3", "6"}},
+                    FactoryList{"NumbersOfOtherForms", "0x11,1 2,3.9", {"0", "1", "3", "-1", "-1"}},
+                    FactoryList{"HugeNumbers",
+                                "99999999999999,-99999999999999,300",
+                                {"2147483647", "-2147483648", "300", "-1", "-1"}}),
+    [](const auto& list) { return std::string(list.param.name); });
 
 TEST_F(ShortcutConfig, HasFixedIdsWithoutAFactoryList) {
     StartShown();

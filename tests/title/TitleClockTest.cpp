@@ -1,3 +1,5 @@
+#include <ostream>
+
 #include "engine/Korvane.h"
 #include "platform/Simulation.h"
 
@@ -91,6 +93,10 @@ struct HourCase {
     const wchar_t* in12;
     const char* half;
 };
+
+std::ostream& operator<<(std::ostream& stream, const HourCase& time) {
+    return stream << time.hour << "h" << time.minute;
+}
 
 class TitleClockHour : public TitleClock, public testing::WithParamInterface<HourCase> {};
 
@@ -222,6 +228,10 @@ struct Designators {
     const char* morning;
     const char* afternoon;
 };
+
+std::ostream& operator<<(std::ostream& stream, const Designators& designators) {
+    return stream << designators.language;
+}
 
 class TitleClockDesignators : public TitleClock, public testing::WithParamInterface<Designators> {};
 

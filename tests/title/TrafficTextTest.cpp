@@ -1,3 +1,5 @@
+#include <ostream>
+
 #include "engine/Korvane.h"
 #include "platform/Unicode.h"
 
@@ -17,6 +19,10 @@ struct LanguageCase {
     int language;
     const char* text;
 };
+
+std::ostream& operator<<(std::ostream& stream, const LanguageCase& language) {
+    return stream << language.language;
+}
 
 const char kEnglish[] = "Traffic Information Received...";
 const char kChinese[] = "接收到交通信息...";
