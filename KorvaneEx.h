@@ -7,6 +7,7 @@
 #include "controls/DialSlider.h"
 #include "controls/FreqStruct.h"
 #include "controls/NumSlider.h"
+#include "controls/SwitchList.h"
 #include "engine/Korvane.h"
 #include "module/MessageLoop.h"
 #include "module/SysBeep.h"

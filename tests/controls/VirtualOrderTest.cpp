@@ -31,14 +31,12 @@ constexpr bool IsInherited(Inherited, Base) {
     EXPECT_INHERITED(Class, EnableRecvMsg);       \
     EXPECT_INHERITED(Class, EnableWindow);        \
     EXPECT_INHERITED(Class, DoCommand);           \
-    EXPECT_INHERITED(Class, ChangeLanguage);      \
     EXPECT_INHERITED(Class, SetFatherWnd);        \
     EXPECT_INHERITED(Class, Redraw);              \
     EXPECT_INHERITED(Class, CheckPoint);          \
     EXPECT_INHERITED(Class, Invalidate);          \
     EXPECT_INHERITED(Class, DrawBaseCtrl);        \
     EXPECT_INHERITED(Class, OnFocus);             \
-    EXPECT_INHERITED(Class, OnLostFocus);         \
     EXPECT_INHERITED(Class, IsCanBeep);           \
     EXPECT_INHERITED(Class, EnableOwnerUpdate);   \
     EXPECT_INHERITED(Class, SetLangID);           \
@@ -54,6 +52,8 @@ TEST(NumSlider, OverridesOnlyCreateInputAndPainting) {
     EXPECT_OVERRIDDEN(CLQNumSlider, DoMessage);
     EXPECT_OVERRIDDEN(CLQNumSlider, Draw);
     EXPECT_INHERITED(CLQNumSlider, SetSize);
+    EXPECT_INHERITED(CLQNumSlider, ChangeLanguage);
+    EXPECT_INHERITED(CLQNumSlider, OnLostFocus);
     EXPECT_COMMON_OPERATIONS_INHERITED(CLQNumSlider);
 }
 
@@ -62,6 +62,8 @@ TEST(ButtonTree, OverridesOnlyInputAndPainting) {
     EXPECT_OVERRIDDEN(CLQButtonTree, Draw);
     EXPECT_INHERITED(CLQButtonTree, Create);
     EXPECT_INHERITED(CLQButtonTree, SetSize);
+    EXPECT_INHERITED(CLQButtonTree, ChangeLanguage);
+    EXPECT_INHERITED(CLQButtonTree, OnLostFocus);
     EXPECT_COMMON_OPERATIONS_INHERITED(CLQButtonTree);
 }
 
@@ -70,6 +72,8 @@ TEST(DialScaleInterface, OverridesOnlyCreateSizeInputAndPainting) {
     EXPECT_OVERRIDDEN(CLQDialScaleEx, SetSize);
     EXPECT_OVERRIDDEN(CLQDialScaleEx, DoMessage);
     EXPECT_OVERRIDDEN(CLQDialScaleEx, Draw);
+    EXPECT_INHERITED(CLQDialScaleEx, ChangeLanguage);
+    EXPECT_INHERITED(CLQDialScaleEx, OnLostFocus);
     EXPECT_COMMON_OPERATIONS_INHERITED(CLQDialScaleEx);
 }
 
@@ -78,7 +82,19 @@ TEST(DialSliderInterface, OverridesOnlyCreateInputAndPainting) {
     EXPECT_OVERRIDDEN(CLQDialSlider, DoMessage);
     EXPECT_OVERRIDDEN(CLQDialSlider, Draw);
     EXPECT_INHERITED(CLQDialSlider, SetSize);
+    EXPECT_INHERITED(CLQDialSlider, ChangeLanguage);
+    EXPECT_INHERITED(CLQDialSlider, OnLostFocus);
     EXPECT_COMMON_OPERATIONS_INHERITED(CLQDialSlider);
+}
+
+TEST(SwitchListInterface, OverridesOnlyInputPaintingAndLanguage) {
+    EXPECT_OVERRIDDEN(CLQSwitchList, DoMessage);
+    EXPECT_OVERRIDDEN(CLQSwitchList, Draw);
+    EXPECT_OVERRIDDEN(CLQSwitchList, ChangeLanguage);
+    EXPECT_INHERITED(CLQSwitchList, Create);
+    EXPECT_INHERITED(CLQSwitchList, SetSize);
+    EXPECT_INHERITED(CLQSwitchList, OnLostFocus);
+    EXPECT_COMMON_OPERATIONS_INHERITED(CLQSwitchList);
 }
 
 TEST(VirtualOrder, OfTheControlsIsTheOneOfTheirBase) {
@@ -96,6 +112,9 @@ TEST(VirtualOrder, OfTheControlsIsTheOneOfTheirBase) {
     EXPECT_EQ(VirtualOrder(&CLQDialSlider::Create), 1);
     EXPECT_EQ(VirtualOrder(&CLQDialSlider::DoMessage), 12);
     EXPECT_EQ(VirtualOrder(&CLQDialSlider::Draw), 13);
+    EXPECT_EQ(VirtualOrder(&CLQSwitchList::DoMessage), 12);
+    EXPECT_EQ(VirtualOrder(&CLQSwitchList::Draw), 13);
+    EXPECT_EQ(VirtualOrder(&CLQSwitchList::ChangeLanguage), 15);
 }
 
 TEST(VirtualOrder, OfWindowsAndControlsIsFixed) {
