@@ -1,6 +1,6 @@
 # What `cmake --install` puts in place: both libraries, the headers that their users include, the display
-# modules, the system-information service, the tools for images and layouts, and the package that
-# find_package(KorvaneEx) finds.
+# modules, the system-information service and its client, the tools for images and layouts, and the package
+# that find_package(KorvaneEx) finds.
 include(CMakePackageConfigHelpers)
 
 # korvane_reached_headers(<result> <header>...)
@@ -57,6 +57,6 @@ install(FILES "${PROJECT_BINARY_DIR}/KorvaneExConfig.cmake" "${PROJECT_BINARY_DI
         DESTINATION "${package_dir}")
 
 file(RELATIVE_PATH libraries_from_programs "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}")
-set_target_properties(lqimage lqlayout PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_programs}")
-install(TARGETS lqimage lqlayout)
+set_target_properties(headunitctl lqimage lqlayout PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_programs}")
+install(TARGETS headunitctl lqimage lqlayout)
 install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}")
