@@ -1,5 +1,8 @@
 #include "demo/headunit/TitleStrip.h"
 
+#include <cwchar>
+#include <iterator>
+
 #include "demo/headunit/ShortcutCaptions.h"
 
 namespace korvane::demo {

@@ -12,7 +12,7 @@ namespace korvane::test {
 
 namespace {
 
-constexpr int kPatienceMs = 20000;
+constexpr int kPatienceMs = 60000;
 
 int NowMs() {
     using std::chrono::duration_cast;

@@ -15,11 +15,11 @@ class Program {
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
-    /// Reads what it prints until that line has come. False when it ends without it or twenty seconds pass.
+    /// Reads what it prints until that line has come. False when it ends without it or a minute passes.
     bool WaitForLine(const std::string& line);
 
     /// Reads what it prints until it ends; its exit status, or minus the number of the signal that ended it.
-    /// One that runs for more than twenty seconds is killed.
+    /// One that runs for more than a minute is killed.
     int Wait();
 
     /// Ends it wherever it is, with SIGKILL, and waits until it is gone.

@@ -118,6 +118,16 @@ TEST_F(ThreeProcesses, LetNoSecondOfAKindIn) {
     EXPECT_EQ(otherUnit.Errors(), "headunit: a head unit is running on this device already\n");
 }
 
+TEST_F(ThreeProcesses, AreNotDisturbedByATour) {
+    const auto headUnit = StartHeadUnit();
+    const png::Picture radio = Screenshot();
+    const std::string record = Record();
+    Program tour({KORVANE_TEST_HEADUNIT, "--tour", HostPath(L"\\tour"), "--device-root", DeviceRoot()});
+    EXPECT_EQ(tour.Wait(), 0) << tour.Errors();
+    EXPECT_EQ(Record(), record);
+    EXPECT_TRUE(AwaitSame(radio, kContent));
+}
+
 /// Where the main application lives: in a process of its own, or in the head unit's.
 class SourceSwitch : public ThreeProcesses, public testing::WithParamInterface<bool> {};
 
