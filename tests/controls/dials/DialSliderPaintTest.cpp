@@ -103,6 +103,15 @@ TEST_F(DialSliderPaint, CutsStepsOfWholeNumbers) {
               Drawing().Ticks("msmsmsmsLsmsmsmsmsLs").Label(8, L"989").Label(18, L"1079").Pixels());
 }
 
+TEST_F(DialSliderPaint, CountsAStepThatIsAHundredthShort) {
+    // 87.59 is 9 hundredths above the minimum, and counts as step 1 of 10.
+    tuner.Prepare(FmScale(), 87.59f);
+    EXPECT_EQ(LooksOf(tuner),
+              Drawing().Ticks("smsmsmsmsLsmsmsmsmsL").Label(9, L"87.5").Label(19, L"88.5").Pixels());
+    tuner.SetVaule(87.58f);
+    EXPECT_EQ(LooksOf(tuner), Drawing().Ticks("LsmsmsmsmsLsmsmsmsms").Label(10, L"87.6").Pixels());
+}
+
 TEST_F(DialSliderPaint, PutsTheMiddleRowLowerWhereTheSpanIsRoundedUp) {
     // 22 rows, and 12 above the middle one instead of 11.
     tuner.Prepare(FmScale(), 98.0f, 264);
