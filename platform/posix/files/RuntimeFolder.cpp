@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <fcntl.h>
+#include <string>
 #include <sys/stat.h>
 
 namespace korvane {
@@ -24,33 +25,17 @@ bool IsPrivate(int folder) {
     return fstat(folder, &status) == 0 && status.st_uid == geteuid() && (status.st_mode & 0077) == 0;
 }
 
-Descriptor OpenPrivate(int parent, const std::string& name, IfMissing ifMissing) {
-    if (name.empty())
-        return {};
+}  // namespace
+
+Descriptor OpenRuntimeFolder(IfMissing ifMissing) {
+    const std::string path = RuntimePath();
     // An existing folder is as good as a new one, so only the opening tells.
     if (ifMissing == IfMissing::Make)
-        mkdirat(parent, name.c_str(), 0700);
-    Descriptor folder(openat(parent, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+        mkdir(path.c_str(), 0700);
+    Descriptor folder(open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
     if (folder.IsOpen() && !IsPrivate(folder.Number()))
         folder.Close();
     return folder;
-}
-
-}  // namespace
-
-RuntimeFolder::RuntimeFolder(const std::string& deviceKey, IfMissing ifMissing)
-    : deviceKey_(deviceKey), parent_(OpenPrivate(AT_FDCWD, RuntimePath(), ifMissing)) {
-    if (parent_.IsOpen())
-        folder_ = OpenPrivate(parent_.Number(), deviceKey_, ifMissing);
-}
-
-bool RuntimeFolder::IsRemoved() const {
-    struct stat status {};
-    return fstat(folder_.Number(), &status) != 0 || status.st_nlink == 0;
-}
-
-void RuntimeFolder::RemoveIfEmpty() const {
-    unlinkat(parent_.Number(), deviceKey_.c_str(), AT_REMOVEDIR);
 }
 
 }  // namespace korvane

@@ -148,7 +148,8 @@ TEST(Endpoint, DoesNotTakeDamagedListsForWindows) {
     PeerProcess peer;
     peer.Ask("window Korvane.Peer healthy");
     const fs::path folder = RuntimeFiles(".windows").front().parent_path();
-    const fs::path foreign = folder / "0123456789abcdef.windows";
+    const std::string key = RuntimeFiles(".windows").front().filename().string().substr(0, 17);
+    const fs::path foreign = folder / (key + "0123456789abcdef.windows");
     std::mt19937 random(20240229);
     for (int i = 0; i < 200; ++i) {
         std::string bytes(random() % 300, '\0');
@@ -160,11 +161,12 @@ TEST(Endpoint, DoesNotTakeDamagedListsForWindows) {
         // Nobody holds its lock, so it is removed.
         EXPECT_FALSE(fs::exists(foreign));
     }
-    fs::create_directory(folder / "0123456789abcdef.windows");
-    fs::create_symlink("/dev/zero", folder / "1123456789abcdef.windows");
+    fs::create_directory(foreign);
+    const fs::path link = folder / (key + "1123456789abcdef.windows");
+    fs::create_symlink("/dev/zero", link);
     EXPECT_NE(FindWindowW(nullptr, L"healthy"), nullptr);
-    fs::remove(folder / "0123456789abcdef.windows");
-    fs::remove(folder / "1123456789abcdef.windows");
+    fs::remove(foreign);
+    fs::remove(link);
 }
 
 TEST(Endpoint, IsNotOpenedInAFolderThatOthersMayEnter) {

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/stat.h>
 
 #include "platform/Simulation.h"
 #include "platform/posix/files/DeviceKey.h"
+#include "platform/posix/files/RuntimeFolder.h"
 #include "platform/posix/remote/RemoteHandle.h"
 #include "platform/posix/remote/wire/EndpointName.h"
 
@@ -15,16 +17,21 @@ namespace {
 // More than one device has. Files beyond are left alone.
 constexpr std::size_t kMostPeers = 4096;
 
-std::vector<std::string> EndpointsIn(const RuntimeFolder& folder) {
-    const int opened = openat(folder.Number(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+std::vector<std::string> EndpointsIn(int folder, const std::string& deviceKey) {
+    const int opened = openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     const std::unique_ptr<DIR, int (*)(DIR*)> entries(opened < 0 ? nullptr : fdopendir(opened), &closedir);
     std::vector<std::string> endpoints;
     while (const dirent* entry = entries ? readdir(entries.get()) : nullptr) {
-        const std::string_view endpoint = EndpointOfListFile(entry->d_name);
+        const std::string_view endpoint = EndpointOfListFile(entry->d_name, deviceKey);
         if (!endpoint.empty() && endpoints.size() < kMostPeers)
             endpoints.emplace_back(endpoint);
     }
     return endpoints;
+}
+
+bool IsRemoved(int folder) {
+    struct stat status {};
+    return fstat(folder, &status) != 0 || status.st_nlink == 0;
 }
 
 UINT_PTR KeyOf(HWND handle) {
@@ -41,10 +48,13 @@ Neighbours& TheNeighbours() {
 
 void Neighbours::EnterFolder() {
     std::string root = DeviceRoot();
-    if (folder_ && folder_->IsOpen() && root == root_ && !folder_->IsRemoved())
+    const bool isOpen = folder_ && !IsRemoved(folder_->Number());
+    if (isOpen && root == root_)
         return;
     peers_.clear();
-    folder_ = std::make_shared<const RuntimeFolder>(DeviceKey(), IfMissing::Fail);
+    if (!isOpen)
+        folder_ = std::make_shared<const Descriptor>(OpenRuntimeFolder(IfMissing::Fail));
+    deviceKey_ = DeviceKey();
     root_ = std::move(root);
 }
 
@@ -66,7 +76,7 @@ std::vector<std::shared_ptr<Peer>> Neighbours::LookAround(const std::string& own
 }
 
 void Neighbours::MeetNew(const std::string& ownEndpoint) {
-    for (const std::string& endpoint : EndpointsIn(*folder_)) {
+    for (const std::string& endpoint : EndpointsIn(folder_->Number(), deviceKey_)) {
         if (endpoint == ownEndpoint || peers_.count(endpoint) != 0)
             continue;
         if (std::shared_ptr<Peer> peer = Peer::Open(folder_, endpoint))

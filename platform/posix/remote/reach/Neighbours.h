@@ -46,8 +46,9 @@ class Neighbours {
     void ForgetGoneWindows(Peer& peer);
 
     std::string root_;
-    std::shared_ptr<const RuntimeFolder> folder_;
-    std::map<std::string, std::shared_ptr<Peer>, std::less<>> peers_;  // by endpoint, those of the folder
+    std::string deviceKey_;
+    std::shared_ptr<const Descriptor> folder_;
+    std::map<std::string, std::shared_ptr<Peer>, std::less<>> peers_;  // by endpoint, those of the root
     std::map<UINT_PTR, Target> targets_;                               // by handle
     UINT_PTR lastHandle_ = 0;
 };

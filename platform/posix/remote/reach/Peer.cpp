@@ -11,10 +11,10 @@
 
 namespace korvane {
 
-Peer::Peer(std::shared_ptr<const RuntimeFolder> folder, std::string_view endpoint, Descriptor list)
+Peer::Peer(std::shared_ptr<const Descriptor> folder, std::string_view endpoint, Descriptor list)
     : folder_(std::move(folder)), name_(endpoint), list_(std::move(list)) {}
 
-std::shared_ptr<Peer> Peer::Open(std::shared_ptr<const RuntimeFolder> folder, std::string_view endpoint) {
+std::shared_ptr<Peer> Peer::Open(std::shared_ptr<const Descriptor> folder, std::string_view endpoint) {
     Descriptor list(openat(folder->Number(), ListFileOf(endpoint).c_str(),
                            O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     struct stat status {};

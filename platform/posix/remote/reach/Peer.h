@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "platform/coredll.h"
-#include "platform/posix/files/RuntimeFolder.h"
+#include "platform/posix/files/Descriptor.h"
 #include "platform/posix/remote/wire/Channel.h"
 #include "platform/posix/remote/wire/WindowList.h"
 
@@ -18,7 +18,7 @@ namespace korvane {
 class Peer {
   public:
     /// Null when the file is no endpoint's list.
-    static std::shared_ptr<Peer> Open(std::shared_ptr<const RuntimeFolder> folder, std::string_view endpoint);
+    static std::shared_ptr<Peer> Open(std::shared_ptr<const Descriptor> folder, std::string_view endpoint);
 
     /// False when it has ended; what it left behind is removed then.
     bool IsAlive();
@@ -49,13 +49,13 @@ class Peer {
     std::map<std::uint32_t, UINT_PTR> handles;
 
   private:
-    Peer(std::shared_ptr<const RuntimeFolder> folder, std::string_view endpoint, Descriptor list);
+    Peer(std::shared_ptr<const Descriptor> folder, std::string_view endpoint, Descriptor list);
 
     Handover Connect(Descriptor& channel);
     Handover HandOverOn(Descriptor& channel, const Packet& packet);
     bool ReadWindows();
 
-    std::shared_ptr<const RuntimeFolder> folder_;
+    std::shared_ptr<const Descriptor> folder_;
     std::string name_;
     Descriptor list_;
     bool isDead_ = false;

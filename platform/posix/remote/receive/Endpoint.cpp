@@ -22,14 +22,14 @@ bool LockForLife(int file) {
 }  // namespace
 
 std::unique_ptr<Endpoint> Endpoint::Open(const std::string& deviceKey) {
-    // Again when another process takes the folder or the list for abandoned before the list is locked.
+    // Again when another process takes the list for abandoned before it is locked.
     constexpr int kAttempts = 100;
     std::unique_ptr<Endpoint> endpoint(new Endpoint);
+    endpoint->folder_ = OpenRuntimeFolder(IfMissing::Make);
+    if (!endpoint->folder_.IsOpen())
+        return nullptr;
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
-        endpoint->folder_ = RuntimeFolder(deviceKey, IfMissing::Make);
-        if (!endpoint->folder_.IsOpen())
-            return nullptr;
-        if (!endpoint->MakeList())
+        if (!endpoint->MakeList(deviceKey))
             continue;
         endpoint->listener_ = ListenIn(endpoint->folder_.Number(), SocketOf(endpoint->name_));
         return endpoint->listener_.IsOpen() ? std::move(endpoint) : nullptr;
@@ -37,8 +37,8 @@ std::unique_ptr<Endpoint> Endpoint::Open(const std::string& deviceKey) {
     return nullptr;
 }
 
-bool Endpoint::MakeList() {
-    name_ = NewEndpointName();
+bool Endpoint::MakeList(const std::string& deviceKey) {
+    name_ = NewEndpointName(deviceKey);
     list_ = Descriptor(openat(folder_.Number(), ListFileOf(name_).c_str(),
                               O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
     struct stat status {};
@@ -51,7 +51,6 @@ Endpoint::~Endpoint() {
         return;
     unlinkat(folder_.Number(), SocketOf(name_).c_str(), 0);
     unlinkat(folder_.Number(), ListFileOf(name_).c_str(), 0);
-    folder_.RemoveIfEmpty();
 }
 
 void Endpoint::Publish(const std::vector<ListedWindow>& windows) {

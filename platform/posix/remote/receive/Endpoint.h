@@ -10,11 +10,11 @@
 
 namespace korvane {
 
-/// What other processes of one device see of this one: the list of its windows and the socket that takes
+/// What other processes of the device see of this one: the list of its windows and the socket that takes
 /// messages for them. Both end with the object, or with the process however that ends.
 class Endpoint {
   public:
-    /// Null when the device has no folder to meet in.
+    /// Null when there is no folder to meet in.
     static std::unique_ptr<Endpoint> Open(const std::string& deviceKey);
     ~Endpoint();
     Endpoint(const Endpoint&) = delete;
@@ -32,10 +32,10 @@ class Endpoint {
   private:
     Endpoint() = default;
 
-    bool MakeList();
+    bool MakeList(const std::string& deviceKey);
 
     std::string name_;
-    RuntimeFolder folder_;
+    Descriptor folder_;
     Descriptor list_;
     Descriptor listener_;
     std::uint64_t generation_ = 0;
