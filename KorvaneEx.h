@@ -6,6 +6,7 @@
 #include "controls/DialScaleEx.h"
 #include "controls/DialSlider.h"
 #include "controls/FreqStruct.h"
+#include "controls/MenuItemCtrl.h"
 #include "controls/NumSlider.h"
 #include "controls/SwitchList.h"
 #include "engine/Korvane.h"

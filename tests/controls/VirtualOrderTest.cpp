@@ -97,6 +97,16 @@ TEST(SwitchListInterface, OverridesOnlyInputPaintingAndLanguage) {
     EXPECT_COMMON_OPERATIONS_INHERITED(CLQSwitchList);
 }
 
+TEST(MenuItemInterface, OverridesOnlyInputPaintingLanguageAndTheLossOfFocus) {
+    EXPECT_OVERRIDDEN(CLQMenuItemCtrl, DoMessage);
+    EXPECT_OVERRIDDEN(CLQMenuItemCtrl, Draw);
+    EXPECT_OVERRIDDEN(CLQMenuItemCtrl, ChangeLanguage);
+    EXPECT_OVERRIDDEN(CLQMenuItemCtrl, OnLostFocus);
+    EXPECT_INHERITED(CLQMenuItemCtrl, Create);
+    EXPECT_INHERITED(CLQMenuItemCtrl, SetSize);
+    EXPECT_COMMON_OPERATIONS_INHERITED(CLQMenuItemCtrl);
+}
+
 TEST(VirtualOrder, OfTheControlsIsTheOneOfTheirBase) {
     if (!korvane::test::kKnowsVirtualOrder)
         GTEST_SKIP() << "another C++ ABI";
@@ -112,6 +122,10 @@ TEST(VirtualOrder, OfTheControlsIsTheOneOfTheirBase) {
     EXPECT_EQ(VirtualOrder(&CLQDialSlider::Create), 1);
     EXPECT_EQ(VirtualOrder(&CLQDialSlider::DoMessage), 12);
     EXPECT_EQ(VirtualOrder(&CLQDialSlider::Draw), 13);
+    EXPECT_EQ(VirtualOrder(&CLQMenuItemCtrl::DoMessage), 12);
+    EXPECT_EQ(VirtualOrder(&CLQMenuItemCtrl::Draw), 13);
+    EXPECT_EQ(VirtualOrder(&CLQMenuItemCtrl::ChangeLanguage), 15);
+    EXPECT_EQ(VirtualOrder(&CLQMenuItemCtrl::OnLostFocus), 22);
     EXPECT_EQ(VirtualOrder(&CLQSwitchList::DoMessage), 12);
     EXPECT_EQ(VirtualOrder(&CLQSwitchList::Draw), 13);
     EXPECT_EQ(VirtualOrder(&CLQSwitchList::ChangeLanguage), 15);
