@@ -8,11 +8,14 @@
 #include "controls/parts/DialSliderLayout.h"
 #include "controls/parts/Hundredths.h"
 #include "controls/parts/InvalidIndex.h"
+#include "controls/parts/Saturated.h"
 #include "controls/parts/SharedImage.h"
 #include "engine/core/Rect.h"
 #include "engine/text/FontManager.h"
 
 namespace layout = korvane::dial_slider;
+
+using korvane::Saturated;
 
 namespace {
 
@@ -56,10 +59,6 @@ void FormatNumber(int number, wchar_t (&text)[kNumberLength]) {
 /// Steps beyond this many are outside every control; fewer stay within int when they become pixels.
 int LimitSteps(std::int64_t steps) {
     return static_cast<int>(std::clamp<std::int64_t>(steps, -korvane::kMaxExtent, korvane::kMaxExtent));
-}
-
-int Saturated(std::int64_t position) {
-    return static_cast<int>(std::clamp<std::int64_t>(position, INT32_MIN, INT32_MAX));
 }
 
 /// A preset's frequency in hundredths, without a guard.

@@ -1,18 +1,19 @@
 #include "controls/NumSlider.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <cwchar>
-#include <limits>
 
 #include "controls/parts/Hundredths.h"
 #include "controls/parts/NumSliderLayout.h"
+#include "controls/parts/Saturated.h"
 #include "controls/parts/SharedImage.h"
 #include "engine/draw/SurfManager.h"
 #include "engine/text/FontManager.h"
 
 namespace wheel = korvane::num_slider;
+
+using korvane::Saturated;
 
 namespace {
 
@@ -21,11 +22,6 @@ constexpr std::size_t kNumberLength = 16;
 
 _LQColor White() {
     return {255, 255, 255, 255};
-}
-
-int Saturated(std::int64_t number) {
-    using Limits = std::numeric_limits<int>;
-    return static_cast<int>(std::clamp<std::int64_t>(number, Limits::min(), Limits::max()));
 }
 
 int HeightOf(const std::shared_ptr<CLQSurfHandle>& image) {
