@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "engine/Korvane.h"
+#include "engine/core/Borrowed.h"
 
 #include "tests/window/Probe.h"
 
@@ -310,6 +311,36 @@ TEST(Language, ChangesThroughTheWholeWindow) {
     window.ChangeLanguage();
     EXPECT_EQ(inner.languageChanges, 1);
     EXPECT_EQ(outer.languageChanges, 1);
+}
+
+TEST(Borrowed, ReadsAsNullOnceTheObjectHasEnded) {
+    CLQGroupCtrl group;
+    group.AddChild(new Probe);
+    const korvane::Borrowed<CLQBaseCtrl> child = group.GetChild(0);
+    const korvane::Borrowed<CLQBaseCtrl> copy = child;
+    EXPECT_EQ(child, group.GetChild(0));
+    EXPECT_TRUE(child->IsShow());
+    group.DelChild(child, true);
+    EXPECT_EQ(child.Get(), nullptr);
+    EXPECT_EQ(copy.Get(), nullptr);
+}
+
+TEST(Borrowed, IsNullUntilItIsSetAndMayBeSetAnew) {
+    korvane::Borrowed<Probe> borrowed;
+    EXPECT_FALSE(borrowed);
+    Probe first;
+    borrowed = &first;
+    EXPECT_EQ(borrowed, &first);
+    {
+        Probe second;
+        borrowed = &second;
+        EXPECT_EQ(borrowed, &second);
+    }
+    EXPECT_FALSE(borrowed);
+    borrowed = &first;
+    EXPECT_EQ(borrowed, &first);
+    borrowed = nullptr;
+    EXPECT_FALSE(borrowed);
 }
 
 }  // namespace
