@@ -5,7 +5,6 @@
 #include <chrono>
 #include <fcntl.h>
 #include <string_view>
-#include <sys/file.h>
 #include <sys/mman.h>
 #include <thread>
 
@@ -40,6 +39,33 @@ bool IsOurs(int file, struct stat& status) {
     return (status.st_mode & 07777) == kOwnerOnly || fchmod(file, kOwnerOnly) == 0;
 }
 
+// The bytes that are locked. The object need not be so long.
+enum LockedByte : off_t { kOwner = 0, kNext = 1 };
+
+// The locks of an open file go with it. False, with errno set, when another one has the lock.
+bool SetLock(int file, LockedByte byte, short type) {
+    struct flock lock = {};
+    lock.l_type = type;
+    lock.l_whence = SEEK_SET;
+    lock.l_start = byte;
+    lock.l_len = 1;
+    return fcntl(file, F_OFD_SETLK, &lock) == 0;
+}
+
+// There is no wait with an end, so this asks again and again; everybody as often, so that all have the same
+// chance.
+bool TakeUntil(int file, LockedByte byte, Clock::time_point deadline) {
+    constexpr Clock::duration kPause = std::chrono::microseconds(500);
+    while (!SetLock(file, byte, F_WRLCK)) {
+        const bool busy = errno == EAGAIN || errno == EACCES || errno == EINTR;
+        const Clock::time_point now = Clock::now();
+        if (!busy || now >= deadline)
+            return false;
+        std::this_thread::sleep_for(std::min(kPause, deadline - now));
+    }
+    return true;
+}
+
 }  // namespace
 
 std::string SharedObjectPrefix() {
@@ -66,24 +92,20 @@ std::unique_ptr<SharedObject> SharedObject::Lock(const char* kind, const wchar_t
     }
 }
 
-// The system wakes no waiter at a given time, so this asks again and again, ever less often.
+// A lock that is taken again right after it was given up would pass by all who wait. So the way to it leads
+// through a place for one, who keeps it until the lock is free: whoever has just had the lock is not the
+// next, too.
 bool SharedObject::LockUntil(Clock::time_point deadline) const {
-    constexpr Clock::duration kLongestPause = std::chrono::milliseconds(8);
-    Clock::duration pause = std::chrono::microseconds(100);
-    while (flock(file_.Number(), LOCK_EX | LOCK_NB) != 0) {
-        const Clock::time_point now = Clock::now();
-        if ((errno != EWOULDBLOCK && errno != EINTR) || now >= deadline)
-            return false;
-        std::this_thread::sleep_for(std::min(pause, deadline - now));
-        pause = std::min(pause * 2, kLongestPause);
-    }
-    return true;
+    const bool locked =
+        TakeUntil(file_.Number(), kNext, deadline) && TakeUntil(file_.Number(), kOwner, deadline);
+    SetLock(file_.Number(), kNext, F_UNLCK);
+    return locked;
 }
 
 SharedObject::~SharedObject() {
     // A child process forked meanwhile has the descriptor, too, and would keep the lock by it.
     if (file_.IsOpen())
-        flock(file_.Number(), LOCK_UN);
+        SetLock(file_.Number(), kOwner, F_UNLCK);
 }
 
 }  // namespace korvane

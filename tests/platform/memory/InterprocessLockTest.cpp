@@ -103,6 +103,35 @@ TEST_F(InterprocessLocks, LetNoCountGetLost) {
     EXPECT_EQ(*count, kProcesses * kRounds);
 }
 
+TEST_F(InterprocessLocks, PassNobodyByWhoWaitsWhileAnotherTakesThemAgainAndAgain) {
+    constexpr int kRounds = 20;
+    auto* const holds = static_cast<volatile int*>(MapSharedMemory(L"holds", sizeof(int), nullptr));
+    ASSERT_NE(holds, nullptr);
+    const Gate held;
+    ForkedProcess greedy([&] {
+        for (bool first = true;; first = false) {
+            const InterprocessLock lock(kName, kLong);
+            *holds = *holds + 1;
+            if (first)
+                held.Open();
+            usleep(1000);
+        }
+        return 0;
+    });
+    ASSERT_TRUE(held.Wait());
+    int passedBy = 0;
+    for (int round = 0; round < kRounds; ++round) {
+        int before = *holds;
+        while (*holds == before)
+            usleep(100);
+        before = *holds;
+        const InterprocessLock lock(kName, kLong);
+        ASSERT_TRUE(lock.IsHeld());
+        passedBy += *holds - before;
+    }
+    EXPECT_LE(passedBy, 4 * kRounds);
+}
+
 TEST_F(InterprocessLocks, OfOtherNamesAndDevicesAreOthers) {
     const InterprocessLock lock(kName, 0);
     ASSERT_TRUE(lock.IsHeld());
