@@ -1,14 +1,12 @@
 #include "platform/posix/display/ModuleDisplay.h"
 
-#include <climits>
-#include <cstdlib>
 #include <dlfcn.h>
 #include <string>
-#include <unistd.h>
 
 #include "platform/DisplayModule.h"
 #include "platform/Simulation.h"
 #include "platform/posix/display/ActiveDisplay.h"
+#include "platform/posix/files/OwnFolder.h"
 
 namespace korvane {
 namespace {
@@ -25,20 +23,6 @@ void InvalidateOwner(HWND owner) {
 
 void KeepFailure(const char* text) {
     FailDisplay(text);
-}
-
-// The folder, with a slash at its end, of the file that holds this code: the library, or a program that has
-// it linked in. The loader knows a program only by the name it was started with, which need not be a path.
-std::string OwnFolder() {
-    Dl_info info{};
-    char path[PATH_MAX];
-    const bool named = dladdr(reinterpret_cast<void*>(&InvalidateOwner), &info) != 0 && info.dli_fname &&
-                       std::string(info.dli_fname).find('/') != std::string::npos &&
-                       realpath(info.dli_fname, path);
-    if (!named && !realpath("/proc/self/exe", path))
-        return {};
-    const std::string file = path;
-    return file.substr(0, file.rfind('/') + 1);
 }
 
 }  // namespace

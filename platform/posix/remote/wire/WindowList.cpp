@@ -10,6 +10,7 @@
 namespace korvane {
 namespace {
 
+constexpr std::size_t kLongestClassName = 256;
 constexpr std::size_t kLongestTitle = 1024;
 
 // FNV-1a.
@@ -77,7 +78,7 @@ class Reader {
 void PutWindow(Writer& writer, const ListedWindow& window) {
     writer.Put(window.handle);
     writer.Put(window.born);
-    writer.Put(std::wstring_view(window.className));
+    writer.Put(std::wstring_view(window.className).substr(0, kLongestClassName));
     writer.Put(std::wstring_view(window.title).substr(0, kLongestTitle));
 }
 
