@@ -8,6 +8,7 @@
 #include "controls/FreqStruct.h"
 #include "controls/MenuItemCtrl.h"
 #include "controls/NumSlider.h"
+#include "controls/SliderExCtrl.h"
 #include "controls/SwitchList.h"
 #include "engine/Korvane.h"
 #include "module/MessageLoop.h"
