@@ -1,7 +1,7 @@
 #include <map>
 #include <set>
 
-#include "tests/title/TestStrip.h"
+#include "tests/title/bench/TestStrip.h"
 
 namespace korvane::test {
 namespace {

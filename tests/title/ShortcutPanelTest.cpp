@@ -2,7 +2,7 @@
 
 #include "engine/Korvane.h"
 
-#include "tests/title/TestPanel.h"
+#include "tests/title/bench/TestPanel.h"
 
 namespace korvane::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "tests/title/TestStrip.h"
+#include "tests/title/bench/TestStrip.h"
 
 namespace korvane::test {
 namespace {

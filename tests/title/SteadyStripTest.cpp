@@ -1,5 +1,5 @@
 #include "tests/support/AllocationCount.h"
-#include "tests/title/TestStrip.h"
+#include "tests/title/bench/TestStrip.h"
 
 namespace korvane::test {
 namespace {

@@ -1,6 +1,6 @@
 #include "KorvaneEx.h"
-
 #include "platform/Simulation.h"
+
 #include "service/SysInfoService.h"
 #include "tests/demo/DemoScene.h"
 #include "tests/support/ReferenceImage.h"

@@ -1,6 +1,6 @@
 #include "engine/widgets/elements/TextElement.h"
 
-#include "tests/title/TestStrip.h"
+#include "tests/title/bench/TestStrip.h"
 
 // The window for the beep is looked up once in a process, so each of these runs in a process of its own.
 

@@ -1,6 +1,6 @@
 #include "tests/support/InstallService.h"
-#include "tests/title/ExerciseStrip.h"
-#include "tests/title/TestStrip.h"
+#include "tests/title/bench/ExerciseStrip.h"
+#include "tests/title/bench/TestStrip.h"
 
 namespace korvane::test {
 namespace {

@@ -1,5 +1,5 @@
-#include "tests/title/ExerciseStrip.h"
-#include "tests/title/TestStrip.h"
+#include "tests/title/bench/ExerciseStrip.h"
+#include "tests/title/bench/TestStrip.h"
 
 namespace korvane::test {
 namespace {

@@ -1,7 +1,7 @@
 #include "platform/Simulation.h"
 
-#include "tests/title/ExerciseStrip.h"
-#include "tests/title/TestStrip.h"
+#include "tests/title/bench/ExerciseStrip.h"
+#include "tests/title/bench/TestStrip.h"
 
 namespace korvane::test {
 namespace {

@@ -3,7 +3,7 @@
 #include "engine/Korvane.h"
 #include "platform/Unicode.h"
 
-#include "tests/title/TestStrip.h"
+#include "tests/title/bench/TestStrip.h"
 
 namespace korvane::test {
 namespace {

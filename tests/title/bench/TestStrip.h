@@ -7,8 +7,8 @@
 #include "title/TitleDialog.h"
 
 #include "tests/support/Scene.h"
-#include "tests/title/MainWindow.h"
-#include "tests/title/TitleLayout.h"
+#include "tests/title/bench/MainWindow.h"
+#include "tests/title/bench/TitleLayout.h"
 
 namespace korvane::test {
 

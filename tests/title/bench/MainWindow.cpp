@@ -1,4 +1,4 @@
-#include "tests/title/MainWindow.h"
+#include "tests/title/bench/MainWindow.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "tests/title/TestPanel.h"
+#include "tests/title/bench/TestPanel.h"
 
 #include "engine/Korvane.h"
 #include "platform/Unicode.h"

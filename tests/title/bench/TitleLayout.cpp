@@ -1,4 +1,4 @@
-#include "tests/title/TitleLayout.h"
+#include "tests/title/bench/TitleLayout.h"
 
 namespace korvane::test {
 

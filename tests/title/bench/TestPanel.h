@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/title/TestStrip.h"
+#include "tests/title/bench/TestStrip.h"
 
 namespace korvane::test {
 

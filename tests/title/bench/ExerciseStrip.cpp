@@ -1,4 +1,4 @@
-#include "tests/title/ExerciseStrip.h"
+#include "tests/title/bench/ExerciseStrip.h"
 
 #include "engine/core/Message.h"
 #include "title/TitleDialog.h"
