@@ -250,30 +250,29 @@ TEST(Endpoint, BelongsToTheDeviceRootOfItsFirstWindow) {
 }
 
 TEST(Endpoint, EndsWithItsProcessThoughAForkedCopyLives) {
-    int pipes[2];
-    ASSERT_EQ(pipe(pipes), 0);
-    pid_t copy = -1;
+    int lives[2];
+    int mayEnd[2];
+    ASSERT_EQ(pipe(lives), 0);
+    ASSERT_EQ(pipe(mayEnd), 0);
     // The window's process is a copy of this one, and has a copy itself that outlives it.
     const pid_t process = fork();
     if (process == 0) {
         const TestWindow window;
-        copy = fork();
-        if (copy == 0) {
-            char byte;
-            close(pipes[1]);
-            while (read(pipes[0], &byte, 1) > 0) {
-            }
-            _exit(0);
+        char byte = 0;
+        if (fork() == 0) {
+            close(mayEnd[1]);
+            _exit(write(lives[1], &byte, 1) == 1 && read(mayEnd[0], &byte, 1) == 0 ? 0 : 1);
         }
-        _exit(0);
+        _exit(read(lives[0], &byte, 1) == 1 ? 0 : 1);
     }
-    close(pipes[0]);
     int status = 0;
     waitpid(process, &status, 0);
+    EXPECT_EQ(status, 0);
     EXPECT_EQ(RuntimeFiles(".windows").size(), 1u);
     EXPECT_EQ(FindWindowW(TestWindow::ClassName(), nullptr), nullptr);
     EXPECT_TRUE(RuntimeFiles(".windows").empty());
-    close(pipes[1]);
+    for (const int end : {lives[0], lives[1], mayEnd[0], mayEnd[1]})
+        close(end);
 }
 
 TEST(Endpoint, OfAForkedCopyIsItsOwn) {

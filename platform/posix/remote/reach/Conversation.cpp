@@ -49,7 +49,7 @@ class SocketWait {
         eventfd_t ignored;
         if (waits[1].revents != 0)
             eventfd_read(waits[1].fd, &ignored);
-        return left > 0 || waits[0].revents != 0;
+        return left > 0;
     }
 
   private:
@@ -61,7 +61,8 @@ enum class Outcome { Answered, Ended, TooLate };
 Outcome AwaitAnswer(const Descriptor& channel, std::uint32_t serial, LRESULT& result) {
     const auto deadline = SteadyClock::now() + kLongestWait;
     SocketWait wait;
-    while (wait.Step(channel.Number(), deadline)) {
+    for (bool inTime = true; inTime;) {
+        inTime = wait.Step(channel.Number(), deadline);
         Packet packet;
         switch (TakeFrom(channel.Number(), packet)) {
             case Arrival::Packet:

@@ -199,6 +199,8 @@ void AbandonStation() {
     if (station.endpoint)
         station.endpoint->Abandon();
     station.endpoint.reset();
+    for (const std::unique_ptr<ThreadQueue>& queue : TheSession().queues)
+        queue->raised.Close();
 }
 
 }  // namespace korvane
