@@ -72,6 +72,32 @@ TEST_F(TitleInit, MayLoadAnotherLayoutTheNextTime) {
     ExerciseStrip(*dialog, scene);
 }
 
+TEST_F(TitleInit, ComesUpOnADeviceWithoutPictures) {
+    std::filesystem::remove_all(scene.ImageFolder());
+    Start();
+    Set(L"gps", 1);
+    Set(L"rdsIconMask", 31);
+    EXPECT_TRUE(Find(L"IconGPS")->IsOwnerShow());
+    EXPECT_EQ(ImageSeenAt(L"IconGPS"), "");
+    ExerciseStrip(*dialog, scene);
+}
+
+class BareDevice : public TestStrip {
+  protected:
+    BareDevice() : TestStrip(TestService::Missing) {
+        std::filesystem::remove_all(scene.DeviceFolder() / "NandFlash");
+    }
+};
+
+TEST_F(BareDevice, StillGetsAStrip) {
+    Start();
+    ASSERT_NE(dialog->GetGpTitle(), nullptr);
+    ASSERT_NE(dialog->GetShortCutControl(), nullptr);
+    ASSERT_NE(dialog->GetShortCurShadow(), nullptr);
+    EXPECT_EQ(dialog->GetParkingStation(), 0);
+    ExerciseStrip(*dialog, scene);
+}
+
 TEST_F(TitleInit, HasNoDialogName) {
     Start();
     EXPECT_EQ(dialog->GetDialogName(), L"");
