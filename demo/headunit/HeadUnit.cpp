@@ -6,13 +6,6 @@
 
 namespace korvane::demo {
 
-namespace {
-
-/// Items of the system information, as message 1191 numbers them.
-enum SystemItem { kItemBluetooth = 1, kItemLanguage = 17, kItemSource = 31, kItemZone = 32 };
-
-}  // namespace
-
 HeadUnit::HeadUnit() {
     link_.Load();
     record_ = link_.GetSysInfo();
@@ -53,7 +46,7 @@ void HeadUnit::OnSystemChanged(int item) {
         case kItemSource:
             ShowSource();
             break;
-        case kItemZone:
+        case kItemRearZone:
             ShowZone();
             strip_.ShowNotice(record_ && record_->rearZone != 0 ? kCaptionRearSeats : kCaptionFrontSeats);
             break;

@@ -116,7 +116,7 @@ void MainApplication::OnTitleButton(TitleButton button) {
 }
 
 void MainApplication::SoundBeep() {
-    if (beep_ == KeyBeep::Silent)
+    if (beep_ == KeyBeep::Silent || MessageBeep(0))
         return;
     std::fputs("main application: no sound device, so keys do not beep\n", stderr);
     beep_ = KeyBeep::Silent;

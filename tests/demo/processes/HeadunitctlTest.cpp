@@ -44,7 +44,7 @@ TEST_F(Headunitctl, PrintsTheFieldsThatAreNamed) {
 
 TEST_F(Headunitctl, TellsOthersOfAChange) {
     ASSERT_EQ(Ctl({"set", "afState", "2"}).status, 0);
-    EXPECT_TRUE(AwaitItem(10));
+    EXPECT_TRUE(AwaitItem(kItemAf));
     EXPECT_EQ(Get(L"afState"), 2);
 }
 

@@ -1,3 +1,4 @@
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 #include "platform/Simulation.h"
@@ -9,8 +10,6 @@
 namespace korvane::test {
 
 namespace {
-
-constexpr int kItemSource = 31;
 
 constexpr int kDisc = 4;
 constexpr int kNavigation = 17;
@@ -116,6 +115,30 @@ TEST_F(ThreeProcesses, LetNoSecondOfAKindIn) {
     Program otherUnit({KORVANE_TEST_HEADUNIT, "--display", "memory", "--device-root", DeviceRoot()});
     EXPECT_EQ(otherUnit.Wait(), 1);
     EXPECT_EQ(otherUnit.Errors(), "headunit: a head unit is running on this device already\n");
+}
+
+/// What the main application says when keys are to beep again and again.
+class KeyBeeps : public ThreeProcesses {
+  protected:
+    std::string ComplaintsWith(const char* audioDriver) {
+        setenv("SDL_AUDIODRIVER", audioDriver, 1);
+        const auto mainApplication = StartMainApplication();
+        for (int i = 0; i < 3; ++i)
+            PostMessageW(FindWindowW(nullptr, kMainWindowName), kMainKeyBeep, 0, 0);
+        // It does this after the beeps.
+        ChooseSource(kDisc);
+        mainApplication->Kill();
+        mainApplication->Wait();
+        return mainApplication->Errors();
+    }
+};
+
+TEST_F(KeyBeeps, AreReportedMissingOnceWhereThereIsNoSoundDevice) {
+    EXPECT_EQ(ComplaintsWith("no-such-driver"), "main application: no sound device, so keys do not beep\n");
+}
+
+TEST_F(KeyBeeps, SoundWithoutAWordWhereThereIsOne) {
+    EXPECT_EQ(ComplaintsWith("dummy"), "");
 }
 
 TEST_F(ThreeProcesses, AreNotDisturbedByATour) {
