@@ -40,6 +40,7 @@ TEST(WindowOfAnotherProcess, IsFoundByClassAndTitle) {
     ASSERT_NE(window, nullptr);
     EXPECT_EQ(FindWindowW(L"navigrecive", nullptr), window);
     EXPECT_EQ(FindWindowW(nullptr, L"Main"), window);
+    EXPECT_EQ(FindWindowW(nullptr, L"MAIN"), window);
     EXPECT_EQ(FindWindowW(L"NavigRecive", L"Other"), nullptr);
     EXPECT_EQ(FindWindowW(L"Other", L"Main"), nullptr);
     EXPECT_EQ(FindWindowW(nullptr, L"Mai"), nullptr);
@@ -117,6 +118,21 @@ TEST(WindowOfAnotherProcess, IsTheNewestOfSeveral) {
     EXPECT_TRUE(IsWindow(first));
     older.Ask("window Korvane.Peer same");
     EXPECT_NE(FindWindowW(nullptr, L"same"), first);
+}
+
+TEST(WindowOfAnotherProcess, IsNotFoundByTheAtomOfAClassOfThisOne) {
+    WNDCLASSW windowClass{};
+    windowClass.lpfnWndProc = &DefWindowProcW;
+    windowClass.lpszClassName = L"Korvane.Unused";
+    const auto atom = reinterpret_cast<LPCWSTR>(static_cast<UINT_PTR>(RegisterClassW(&windowClass)));
+    PeerProcess peer;
+    peer.Ask("window Korvane.Peer theirs");
+    EXPECT_EQ(FindWindowW(atom, nullptr), nullptr);
+    EXPECT_EQ(FindWindowW(reinterpret_cast<LPCWSTR>(UINT_PTR{1}), nullptr), nullptr);
+    const HWND own =
+        CreateWindowExW(0, atom, L"ours", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+    EXPECT_EQ(FindWindowW(atom, nullptr), own);
+    DestroyWindow(own);
 }
 
 TEST(WindowOfAnotherProcess, IsFoundBothWays) {

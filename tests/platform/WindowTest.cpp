@@ -139,6 +139,7 @@ TEST(Window, IsFoundByTitleAndByClass) {
     options.title = L"Korvane test title";
     const TestWindow window(options);
     EXPECT_EQ(FindWindowW(nullptr, L"Korvane test title"), window.Handle());
+    EXPECT_EQ(FindWindowW(nullptr, L"KORVANE TEST TITLE"), window.Handle());
     EXPECT_EQ(FindWindowW(TestWindow::ClassName(), nullptr), window.Handle());
     EXPECT_EQ(FindWindowW(TestWindow::ClassName(), L"Korvane test title"), window.Handle());
     EXPECT_EQ(FindWindowW(L"Korvane.Unheard", L"Korvane test title"), nullptr);
