@@ -5,6 +5,7 @@
 #include "controls/ButtonTree.h"
 #include "controls/DialScaleEx.h"
 #include "controls/DialSlider.h"
+#include "controls/FileView.h"
 #include "controls/FreqStruct.h"
 #include "controls/MenuItemCtrl.h"
 #include "controls/NumSlider.h"
