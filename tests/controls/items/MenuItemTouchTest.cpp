@@ -3,7 +3,6 @@
 #include <memory>
 
 #include "engine/system/System.h"
-#include "engine/window/GroupCtrl.h"
 #include "engine/window/Screen.h"
 #include "platform/coredll.h"
 
@@ -228,14 +227,15 @@ TEST_F(MenuItemLongPress, EndsWithTheFocusButThePressGoesOn) {
 }
 
 TEST_F(MenuItemLongPress, DoesNotComeToATileThatWasHiddenOrDisabledMeanwhile) {
-    CLQGroupCtrl group;
-    for (int way = 0; way < 3; ++way) {
+    for (int way = 0; way < 4; ++way) {
         scene.Press(kX, kY);
         scene.Advance(100);
         if (way == 0)
             tile.SetShow(false);
         else if (way == 1)
             tile.EnableWindow(false);
+        else if (way == 2)
+            listener.SetShow(false);
         else
             tile.DropPress();
         scene.Advance(2 * kLongPress);
@@ -245,6 +245,7 @@ TEST_F(MenuItemLongPress, DoesNotComeToATileThatWasHiddenOrDisabledMeanwhile) {
         scene.Release(kX, kY);
         tile.SetShow(true);
         tile.EnableWindow(true);
+        listener.SetShow(true);
     }
     EXPECT_TRUE(listener.commands.empty());
     scene.Press(kX, kY);

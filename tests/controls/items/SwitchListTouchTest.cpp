@@ -2,7 +2,6 @@
 #include <limits>
 #include <memory>
 
-#include "engine/window/GroupCtrl.h"
 #include "engine/window/Window.h"
 
 #include "tests/controls/Touches.h"
