@@ -13,6 +13,7 @@
 #include "controls/SwitchList.h"
 #include "engine/Korvane.h"
 #include "module/MessageLoop.h"
+#include "module/Slides.h"
 #include "module/SysBeep.h"
 #include "module/ThumbNail.h"
 #include "sysinfo/MainApplication.h"

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "module/MessageLoop.h"
+#include "module/Slides.h"
 #include "module/SysBeep.h"
 #include "module/ThumbNail.h"
 #include "platform/Simulation.h"
@@ -44,6 +45,9 @@ TEST_F(ExportedNames, OfFunctionsArePlain) {
     ASSERT_NE(library, nullptr);
     EXPECT_EQ(Find(L"InitMessage"), reinterpret_cast<const void*>(&InitMessage));
     EXPECT_EQ(Find(L"WndDoModel"), reinterpret_cast<const void*>(&WndDoModel));
+    EXPECT_EQ(Find(L"MoveInOutCtrl"), reinterpret_cast<const void*>(&MoveInOutCtrl));
+    EXPECT_EQ(Find(L"MoveInOutCtrl2"), reinterpret_cast<const void*>(&MoveInOutCtrl2));
+    EXPECT_EQ(Find(L"MoveInOutCtrl3"), reinterpret_cast<const void*>(&MoveInOutCtrl3));
     EXPECT_EQ(Find(L"SysBeep"), reinterpret_cast<const void*>(&SysBeep));
     EXPECT_EQ(Find(L"SetThumbNail"), reinterpret_cast<const void*>(&SetThumbNail));
     EXPECT_EQ(Find(L"GetThumbNail"), reinterpret_cast<const void*>(&GetThumbNail));
