@@ -18,7 +18,7 @@ namespace korvane {
 namespace {
 
 constexpr int kSamplesPerSecond = 48000;
-constexpr std::chrono::milliseconds kPatience{100};
+constexpr std::chrono::milliseconds kPatience{250};
 
 // The module stays loaded: what it brought with it may not be unloadable.
 std::unique_ptr<Speaker> OpenSpeaker() {
