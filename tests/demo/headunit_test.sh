@@ -6,6 +6,9 @@ program=$1
 scratch="$(mktemp -d)"
 trap 'rm -rf -- "$scratch"' EXIT
 unset DISPLAY WAYLAND_DISPLAY
+# Its windows meet those of no other program.
+export KORVANE_RUNTIME_DIR="$scratch/runtime"
+mkdir -m 700 -- "$KORVANE_RUNTIME_DIR"
 
 fail() {
     printf '%s\n' "$*" >&2
