@@ -1,6 +1,5 @@
 #include "controls/DialScaleEx.h"
 
-#include <algorithm>
 #include <cstdarg>
 
 #include "engine/core/Rect.h"

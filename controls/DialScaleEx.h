@@ -30,8 +30,9 @@ class KORVANEEX_API CLQDialScaleEx : public CLQBaseCtrl {
     bool DoMessage(_LQMessage* msg) override;
     void Draw(CLQSurfHandle& target) override;
 
-    /// The face: an image file, read anew even under the same name, or a surface. It shows in its own size,
-    /// cut to the control around its middle. A null name changes nothing.
+    /// The face: an image file, read anew also under the same name unless another handle holds its image, or
+    /// a surface. It shows in its own size, cut to the control around its middle. A null name changes
+    /// nothing.
     void SetBkgSurf(const wchar_t* file);
     void SetBkgSurf(CLQSurfHandle& surface);
 

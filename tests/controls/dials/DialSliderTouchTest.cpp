@@ -473,5 +473,47 @@ TEST_F(DialSliderTouch, HandlersMayDeleteTheScale) {
     }
 }
 
+/// Ends the window in which the scale lies, and so the scale.
+class Closer : public CLQWindow {
+  public:
+    void OnValue(TestTuner*, float*) { window.reset(); }
+    void OnChosen(TestTuner*, int) { window.reset(); }
+    void OnReleased(TestTuner*) { window.reset(); }
+    std::unique_ptr<CLQWindow> window = std::make_unique<CLQWindow>();
+};
+
+TEST_F(DialSliderTouch, HandlersMayDeleteTheWindowOfTheScale) {
+    CLQSurfHandle icon = Icon();
+    WriteImage(scene.ImageFolder() / "Icon.lqi", icon);
+    for (const int event : {kEventValueChanged, kEventItemChosen, kEventReleased}) {
+        Closer closer;
+        closer.window->Create(0, 0, 400, 300);
+        auto* const scale = new TestTuner;
+        scale->Prepare(FmScale(), 98.0f);
+        scale->SetIcongnd(L"Icon.lqi");
+        scale->AddShortcut(98.0f);
+        closer.window->AddChild(scale);
+        if (event == kEventValueChanged)
+            scale->AddCallBack(event, &closer, &Closer::OnValue);
+        else if (event == kEventItemChosen)
+            scale->AddCallBack(event, &closer, &Closer::OnChosen);
+        else
+            scale->AddCallBack(event, &closer, &Closer::OnReleased);
+        scene.Pump();
+
+        const LifeWatch life = scale->WatchLife();
+        scene.Press(kX, kY);
+        if (event == kEventValueChanged)
+            scene.Move(kX, kY - 12);
+        else if (event == kEventItemChosen)
+            scene.Release(kTunerX + 5, kTunerY + 125);
+        else
+            scene.Release(kX, kY);
+        EXPECT_EQ(closer.window, nullptr) << event;
+        EXPECT_FALSE(life.IsAlive()) << event;
+        scene.Release(kX, kY);
+    }
+}
+
 }  // namespace
 }  // namespace korvane::test
