@@ -56,7 +56,7 @@ class KORVANEEX_API CLQMenuItemCtrl : public CLQBaseCtrl {
     void ReleaseImageSurf();
 
     /// A piece of the frame and its place. Pieces 0 to 3 show while the tile has the focus in cursor mode,
-    /// pieces 4 to 7 otherwise; any other piece changes nothing. This and the other setters of images ask for
+    /// pieces 4 to 7 otherwise; any other piece changes nothing. This and the setters of images below ask for
     /// no repaint. Files are read anew.
     void SetBorderSurf(CLQSurfHandle& image, int x, int y, eBorderDirection direction);
     void SetBorderSurf(const wchar_t* file, int x, int y, eBorderDirection direction);
