@@ -61,7 +61,7 @@ class MenuItemPaint : public testing::Test {
 
 TEST_F(MenuItemPaint, PaintsNothingAsANewTile) {
     TestTile fresh;
-    PressTile();
+    Press(fresh, kTileX + 5, kTileY + 5);
     EXPECT_EQ(LooksOf(fresh), TileDrawing().Pixels());
 }
 
