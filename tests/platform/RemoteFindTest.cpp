@@ -1,7 +1,9 @@
 #include <algorithm>
+#include <atomic>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "tests/platform/PeerProcess.h"
@@ -203,6 +205,22 @@ TEST(EnumWindows, LeavesOutWhatItsProcedureDestroys) {
     EXPECT_TRUE(EnumWindows(procedure, reinterpret_cast<LPARAM>(&seen)));
     EXPECT_EQ(seen, 1);
     windows[1].reset();
+}
+
+TEST(EnumWindows, DoesNotTakeAWindowOfThisProcessForAnothers) {
+    std::atomic<bool> over{false};
+    std::thread maker([&over] {
+        for (int i = 0; i < 300; ++i)
+            const TestWindow first;
+        over = true;
+    });
+    std::size_t most = 0;
+    while (!over)
+        most = std::max(most, ListWindows().size());
+    maker.join();
+    EXPECT_LE(most, 1u);
+    const TestWindow window;
+    EXPECT_EQ(ListWindows(), std::vector<HWND>{window.Handle()});
 }
 
 TEST(EnumWindows, GivesManyWindows) {

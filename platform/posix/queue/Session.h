@@ -44,7 +44,7 @@ bool IsShownWithParents(Session& session, const Window& window);
 /// Makes the queue's thread look again if it waits.
 void WakeQueue(Session& session, ThreadQueue& queue);
 
-/// Gives up what waits for the window's answer, its messages and its timers, and ends it.
+/// Gives up the window's messages and timers, and ends it. What was sent to it is answered with 0.
 void RemoveWindow(Session& session, Window& window);
 
 }  // namespace korvane

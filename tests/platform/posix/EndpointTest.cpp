@@ -2,6 +2,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <random>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -213,6 +214,40 @@ TEST(Endpoint, IsNotOpenedBeneathAFile) {
     PeerProcess peer;
     EXPECT_EQ(peer.Ask("window Korvane.Peer alone"), "ok");
     EXPECT_EQ(peer.Ask("find * alone"), "Korvane.Peer alone");
+}
+
+TEST(Endpoint, IsNotOpenedByAProcessThatMayOpenTooFewFiles) {
+    // Its folder, list and socket, and two to wait with.
+    constexpr int kNeeded = 5;
+    for (int spare = 0; spare < kNeeded; ++spare) {
+        int ready[2];
+        int mayEnd[2];
+        ASSERT_EQ(pipe(ready), 0);
+        ASSERT_EQ(pipe(mayEnd), 0);
+        const pid_t process = fork();
+        if (process == 0) {
+            close(mayEnd[1]);
+            const int next = dup(ready[1]);
+            close(next);
+            const auto most = static_cast<rlim_t>(next + spare);
+            const rlimit limit{most, most};
+            setrlimit(RLIMIT_NOFILE, &limit);
+            const TestWindow window;
+            PostMessageW(window.Handle(), WM_APP, 0, 0);
+            const bool works = DrainQueue() == std::vector<UINT>{WM_APP};
+            char byte = 0;
+            _exit(write(ready[1], &byte, 1) == 1 && read(mayEnd[0], &byte, 1) == 0 && works ? 0 : 1);
+        }
+        char byte = 0;
+        EXPECT_EQ(read(ready[0], &byte, 1), 1);
+        EXPECT_EQ(FindWindowW(TestWindow::ClassName(), nullptr), nullptr) << spare;
+        EXPECT_TRUE(RuntimeFiles().empty()) << spare;
+        for (const int end : {ready[0], ready[1], mayEnd[0], mayEnd[1]})
+            close(end);
+        int status = 0;
+        waitpid(process, &status, 0);
+        EXPECT_EQ(status, 0) << spare;
+    }
 }
 
 TEST(Endpoint, OpensInAFolderWithALongPath) {

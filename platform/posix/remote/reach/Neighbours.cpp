@@ -9,6 +9,7 @@
 #include "platform/posix/files/DeviceKey.h"
 #include "platform/posix/files/RuntimeFolder.h"
 #include "platform/posix/remote/RemoteHandle.h"
+#include "platform/posix/remote/receive/Station.h"
 #include "platform/posix/remote/wire/EndpointName.h"
 
 namespace korvane {
@@ -58,10 +59,10 @@ void Neighbours::EnterFolder() {
     root_ = std::move(root);
 }
 
-std::vector<std::shared_ptr<Peer>> Neighbours::LookAround(const std::string& ownEndpoint) {
+std::vector<std::shared_ptr<Peer>> Neighbours::LookAround() {
     EnterFolder();
     if (folder_->IsOpen())
-        MeetNew(ownEndpoint);
+        MeetNew();
     std::vector<std::shared_ptr<Peer>> living;
     for (auto at = peers_.begin(); at != peers_.end();) {
         if (at->second->IsAlive()) {
@@ -75,8 +76,11 @@ std::vector<std::shared_ptr<Peer>> Neighbours::LookAround(const std::string& own
     return living;
 }
 
-void Neighbours::MeetNew(const std::string& ownEndpoint) {
-    for (const std::string& endpoint : EndpointsIn(folder_->Number(), deviceKey_)) {
+void Neighbours::MeetNew() {
+    const std::vector<std::string> endpoints = EndpointsIn(folder_->Number(), deviceKey_);
+    // After the files: another thread may open this process's own endpoint at this moment.
+    const std::string ownEndpoint = OwnEndpoint();
+    for (const std::string& endpoint : endpoints) {
         if (endpoint == ownEndpoint || peers_.count(endpoint) != 0)
             continue;
         if (std::shared_ptr<Peer> peer = Peer::Open(folder_, endpoint))
@@ -116,6 +120,9 @@ const ListedWindow* Neighbours::Describe(HWND handle) {
 }
 
 void Neighbours::Disconnect() {
+    for (const auto& [endpoint, peer] : peers_)
+        peer->Disconnect();
+    // Those of a root that is no longer this process's, too.
     for (const auto& [handle, target] : targets_)
         target.peer->Disconnect();
 }

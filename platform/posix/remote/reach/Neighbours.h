@@ -24,9 +24,9 @@ class Neighbours {
 
     std::mutex mutex;
 
-    /// Those who live at this moment, apart from the endpoint that is this process's own. What others have
-    /// left behind is removed.
-    std::vector<std::shared_ptr<Peer>> LookAround(const std::string& ownEndpoint);
+    /// Those who live at this moment, apart from this process itself. What others have left behind is
+    /// removed.
+    std::vector<std::shared_ptr<Peer>> LookAround();
 
     HWND HandleOf(const std::shared_ptr<Peer>& peer, std::uint32_t window);
 
@@ -41,7 +41,7 @@ class Neighbours {
 
   private:
     void EnterFolder();
-    void MeetNew(const std::string& ownEndpoint);
+    void MeetNew();
     void Forget(const Peer& peer);
     void ForgetGoneWindows(Peer& peer);
 

@@ -7,7 +7,6 @@
 #include "platform/posix/queue/PointerMessage.h"
 #include "platform/posix/remote/Fork.h"
 #include "platform/posix/remote/reach/Neighbours.h"
-#include "platform/posix/remote/receive/Station.h"
 
 namespace korvane {
 namespace {
@@ -21,13 +20,12 @@ bool Fits(const ListedWindow& window, LPCWSTR className, LPCWSTR title) {
 
 HWND FindRemoteWindow(LPCWSTR className, LPCWSTR title) {
     PrepareForFork();
-    const std::string own = OwnEndpoint();
     Neighbours& neighbours = TheNeighbours();
     const std::lock_guard<std::mutex> lock(neighbours.mutex);
     std::shared_ptr<Peer> owner;
     std::uint32_t handle = 0;
     std::uint64_t born = 0;
-    for (const std::shared_ptr<Peer>& peer : neighbours.LookAround(own)) {
+    for (const std::shared_ptr<Peer>& peer : neighbours.LookAround()) {
         for (const ListedWindow& window : peer->Windows()) {
             if (window.born < born || !Fits(window, className, title))
                 continue;
@@ -43,11 +41,10 @@ HWND FindRemoteWindow(LPCWSTR className, LPCWSTR title) {
 }
 
 std::vector<HWND> RemoteWindows() {
-    const std::string own = OwnEndpoint();
     Neighbours& neighbours = TheNeighbours();
     const std::lock_guard<std::mutex> lock(neighbours.mutex);
     std::vector<std::pair<std::uint64_t, HWND>> byBirth;
-    for (const std::shared_ptr<Peer>& peer : neighbours.LookAround(own)) {
+    for (const std::shared_ptr<Peer>& peer : neighbours.LookAround()) {
         const std::vector<ListedWindow> windows = peer->Windows();
         for (const ListedWindow& window : windows)
             byBirth.emplace_back(window.born, neighbours.HandleOf(peer, window.handle));

@@ -11,10 +11,12 @@
 namespace korvane {
 namespace {
 
+// False when another process has just taken the file for abandoned. This does not wait for that one, which
+// may stand still.
 bool LockForLife(int file) {
     int result;
     do {
-        result = flock(file, LOCK_EX);
+        result = flock(file, LOCK_EX | LOCK_NB);
     } while (result != 0 && errno == EINTR);
     return result == 0;
 }
@@ -42,8 +44,13 @@ bool Endpoint::MakeList(const std::string& deviceKey) {
     list_ = Descriptor(openat(folder_.Number(), ListFileOf(name_).c_str(),
                               O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
     struct stat status {};
-    return list_.IsOpen() && LockForLife(list_.Number()) && fstat(list_.Number(), &status) == 0 &&
-           status.st_nlink > 0;
+    if (!list_.IsOpen())
+        return false;
+    if (LockForLife(list_.Number()) && fstat(list_.Number(), &status) == 0 && status.st_nlink > 0)
+        return true;
+    unlinkat(folder_.Number(), ListFileOf(name_).c_str(), 0);
+    list_.Close();
+    return false;
 }
 
 Endpoint::~Endpoint() {

@@ -14,6 +14,9 @@ class Inbox {
   public:
     Inbox();
 
+    /// False when the process may open no more files; the object is of no use then.
+    bool IsUsable() const { return events_.IsOpen() && interrupt_.IsOpen(); }
+
     /// The socket to accept visitors from: borrowed, until Dismiss.
     void Listen(int listener);
 

@@ -103,8 +103,14 @@ void OpenEndpoint(Station& station) {
     station.endpoint = Endpoint::Open(DeviceKey());
     if (!station.endpoint)
         return;
-    if (!station.inbox)
-        station.inbox = std::make_unique<Inbox>();
+    if (!station.inbox) {
+        auto inbox = std::make_unique<Inbox>();
+        if (!inbox->IsUsable()) {
+            station.endpoint.reset();
+            return;
+        }
+        station.inbox = std::move(inbox);
+    }
     station.inbox->Listen(station.endpoint->Listener());
     if (!station.open.exchange(true))
         station.unread = true;
