@@ -53,7 +53,7 @@ int GetThumbNail(CLQSurfHandle& out) {
     out = CreateBlank();
     const int size = out.CalcStoreMemSize();
     unsigned char* buffer = nullptr;
-    if (!FindBuffer(link, size, buffer))
+    if (!out.GetSurface() || !FindBuffer(link, size, buffer))
         return 0;
     out.GetSurface()->CreateSurfaceFromBuffer(buffer, L"lqi", size, false);
     return 1;
