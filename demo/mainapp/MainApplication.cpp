@@ -3,9 +3,14 @@
 #include <cstdio>
 #include <cstring>
 
+#include "platform/InterprocessLock.h"
+
 namespace korvane::demo {
 
 namespace {
+
+constexpr wchar_t kStarting[] = L"mainApplication";
+constexpr unsigned kPatienceMs = 2000;
 
 constexpr int kNavigation = 17;
 /// The record has one byte for a source.
@@ -66,6 +71,8 @@ MainApplication::~MainApplication() {
 }
 
 bool MainApplication::Start() {
+    // Of two that start at once, one finds the other's window.
+    const InterprocessLock starting(kStarting, kPatienceMs);
     if (window_ || FindWindowW(nullptr, kMainWindowName) || !RegisterMainClass(&WindowProc))
         return false;
     FillFreshRecord();
