@@ -69,8 +69,10 @@ class HeadUnit {
         // A number of one's own, so that nobody's picture is taken for another's.
         const WPARAM number = std::random_device()();
         const std::wstring file = PictureFile(number);
+        SetLastError(ERROR_SUCCESS);
         if (SendMessageW(window_, kRequestPicture, number, 0) == 0)
-            return Outcome::Failure(IsWindow(window_) ? "the head unit cannot save its picture" : kNoAnswer);
+            return Outcome::Failure(GetLastError() == ERROR_SUCCESS ? "the head unit cannot save its picture"
+                                                                    : kNoAnswer);
         std::vector<unsigned char> bytes;
         const bool isRead = ReadWholeFile(file.c_str(), kLqiMaxSize, bytes);
         DeleteFileW(file.c_str());

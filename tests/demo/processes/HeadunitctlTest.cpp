@@ -168,9 +168,13 @@ TEST_F(Headunitctl, ShowsInTheStripWhatItSets) {
 TEST_F(Headunitctl, SaysThatAHeadUnitThatHangsDoesNotAnswer) {
     const auto headUnit = StartHeadUnit();
     headUnit->Stop();
-    const Answer answer = Ctl({"press", "1", "1"});
-    EXPECT_EQ(answer.status, 1);
-    EXPECT_EQ(answer.errors, "headunitctl: the head unit does not answer\n");
+    for (const std::vector<std::string>& command :
+         {std::vector<std::string>{"press", "1", "1"},
+          std::vector<std::string>{"screenshot", HostPath(L"\\none.png")}}) {
+        const Answer answer = Ctl(command);
+        EXPECT_EQ(answer.status, 1);
+        EXPECT_EQ(answer.errors, "headunitctl: the head unit does not answer\n");
+    }
 }
 
 TEST_F(Headunitctl, ExchangesTheThumbnail) {
