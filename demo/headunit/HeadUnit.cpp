@@ -1,8 +1,9 @@
 #include "demo/headunit/HeadUnit.h"
 
+#include <initializer_list>
+
 #include "demo/headunit/Captions.h"
 #include "demo/headunit/LanguageFile.h"
-#include "demo/headunit/Source.h"
 
 namespace korvane::demo {
 
@@ -18,21 +19,30 @@ HeadUnit::~HeadUnit() {
 
 void HeadUnit::Create(int x, int y) {
     ShowLanguage();
-    radio_.Create(x, y, kWidth, kHeight);
-    radio_.OnInit();
-    other_.Create(x, y, kWidth, kHeight);
-    other_.OnInit();
+    CreateScreens(x, y);
     // The last one lies on top of the others.
     strip_.Create(x, y, kWidth, kHeight);
     strip_.OnInit();
 
     radio_.GetSourcesButton().AddCallBack(kEventReleased, &strip_, &TitleStrip::OpenShortcuts);
     other_.GetSourcesButton().AddCallBack(kEventReleased, &strip_, &TitleStrip::OpenShortcuts);
+    for (MenuButton* const button : {&radio_.GetMenuButton(), &other_.GetMenuButton()})
+        button->WhenTouched([this] { ShowScreen(Screen::Menu); });
+    menu_.WhenChosen([this](MenuItem item) { OnMenu(item); });
     strip_.SetTitleBackBtnID(kCaptionBack);
     strip_.WhenBack([this] { OnBack(); });
     strip_.WhenSystemChanged([this](int item) { OnSystemChanged(item); });
     ShowZone();
+    ShowScreen(Screen::Player);
     ShowSource();
+}
+
+void HeadUnit::CreateScreens(int x, int y) {
+    for (CLQWindow* const screen : std::initializer_list<CLQWindow*>{&radio_, &other_, &menu_}) {
+        screen->Create(x, y, kWidth, kHeight);
+        screen->OnInit();
+        screen->SetShow(false);
+    }
 }
 
 void HeadUnit::OnSystemChanged(int item) {
@@ -56,9 +66,41 @@ void HeadUnit::OnSystemChanged(int item) {
 }
 
 void HeadUnit::OnBack() {
+    switch (screen_) {
+        case Screen::Player:
+            ChooseSource(kRadioSource);
+            break;
+        case Screen::Menu:
+            ShowScreen(Screen::Player);
+            break;
+    }
+}
+
+void HeadUnit::OnMenu(MenuItem item) {
+    switch (item) {
+        case MenuItem::Radio:
+            ChooseSource(kRadioSource);
+            break;
+        case MenuItem::Media:
+            ChooseSource(lastMedium_);
+            break;
+        case MenuItem::Sources:
+        case MenuItem::Gauges:
+        case MenuItem::Files:
+        case MenuItem::Settings:
+            break;
+    }
+}
+
+/// Asks for a source. Its screen comes when the record names it; that of the one that plays comes at once.
+void HeadUnit::ChooseSource(int id) {
+    if (current_ && current_->id == id) {
+        ShowScreen(Screen::Player);
+        return;
+    }
     const HWND mainWindow = FindWindowW(nullptr, kMainWindowName);
     if (mainWindow)
-        PostMessageW(mainWindow, kMainSourceChosen, 1, kRadioSource);
+        PostMessageW(mainWindow, kMainSourceChosen, 1, id);
 }
 
 /// Tells that a phone has come.
@@ -83,19 +125,43 @@ void HeadUnit::ShowSource() {
     if (!source || source == current_)
         return;
     current_ = source;
-    const bool isRadio = source->screen == SourceScreenKind::Radio;
-    if (!isRadio) {
-        radio_.StopSeeking();
-        other_.ShowSource(*source);
-    }
-    radio_.SetShow(isRadio);
-    other_.SetShow(!isRadio);
-    strip_.ShowTitle(source->caption);
-    strip_.SetTitleBackBtnShow(!isRadio);
-    if (source->hasPlayTime)
+    if (source->hasPlayTime) {
+        lastMedium_ = source->id;
         strip_.StartPlayTime();
-    else
+    } else {
         strip_.StopPlayTime();
+    }
+    if (source->screen == SourceScreenKind::Other)
+        other_.ShowSource(*source);
+    menu_.MarkPlaying(MenuItem::Radio, PlaysRadio());
+    menu_.MarkPlaying(MenuItem::Media, source->hasPlayTime);
+    ShowScreen(Screen::Player);
+}
+
+void HeadUnit::ShowScreen(Screen screen) {
+    screen_ = screen;
+    const bool isPlayer = screen == Screen::Player;
+    if (!isPlayer || !PlaysRadio())
+        radio_.StopSeeking();
+    radio_.SetShow(isPlayer && PlaysRadio());
+    other_.SetShow(isPlayer && !PlaysRadio());
+    menu_.SetShow(screen == Screen::Menu);
+    strip_.ShowTitle(Title());
+    strip_.SetTitleBackBtnShow(!isPlayer || !PlaysRadio());
+}
+
+bool HeadUnit::PlaysRadio() const {
+    return !current_ || current_->screen == SourceScreenKind::Radio;
+}
+
+int HeadUnit::Title() const {
+    switch (screen_) {
+        case Screen::Player:
+            return current_ ? current_->caption : kCaptionTuner;
+        case Screen::Menu:
+            return kCaptionMenu;
+    }
+    return kCaptionTuner;
 }
 
 }  // namespace korvane::demo

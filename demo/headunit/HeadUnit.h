@@ -3,16 +3,16 @@
 #include "KorvaneEx.h"
 
 #include "demo/headunit/RadioScreen.h"
+#include "demo/headunit/Source.h"
 #include "demo/headunit/SourceScreen.h"
 #include "demo/headunit/TitleStrip.h"
+#include "demo/headunit/menu/MenuScreen.h"
 
 namespace korvane::demo {
 
-struct Source;
-
-/// The head unit: a screen for what plays, and the title strip over it. Which source plays, in which zone and
-/// in which language it speaks, it reads from the system record; what the user chooses it asks of the main
-/// application, which writes the record.
+/// The head unit: a screen for what plays, a menu that leads to the others, and the title strip over them.
+/// Which source plays, in which zone and in which language it speaks, it reads from the system record; what
+/// the user chooses it asks of the main application, which writes the record.
 class HeadUnit {
   public:
     static constexpr int kWidth = 800;
@@ -27,21 +27,32 @@ class HeadUnit {
     void Create(int x, int y);
 
   private:
+    enum class Screen { Player, Menu };
+
+    void CreateScreens(int x, int y);
     void OnSystemChanged(int item);
     void OnBack();
+    void OnMenu(MenuItem item);
+    void ChooseSource(int id);
 
     void ShowPhone();
     void ShowLanguage();
     void ShowZone();
     void ShowSource();
+    void ShowScreen(Screen screen);
+    bool PlaysRadio() const;
+    int Title() const;
 
     CLQShareMemLink link_;
     const _LQSysInfo* record_ = nullptr;
     const Source* current_ = nullptr;
+    int lastMedium_ = kUsbMusicSource;  // the one that played last
     bool hasPhone_ = false;
+    Screen screen_ = Screen::Player;
 
     RadioScreen radio_;
     SourceScreen other_;
+    MenuScreen menu_;
     TitleStrip strip_;
 };
 

@@ -24,6 +24,17 @@ constexpr int kPanelBackX = 400;
 constexpr int kPanelBackY = 300;
 constexpr unsigned kMinuteMs = 60000;
 
+constexpr int kMenuX = 88;
+constexpr int kMenuY = 453;
+constexpr unsigned kLongPressMs = 2000;
+
+/// The tiles of the menu from the left, in the upper row and the lower one.
+constexpr int TileX(int column) {
+    return 141 + 259 * column;
+}
+constexpr int kUpperTileY = 168;
+constexpr int kLowerTileY = 368;
+
 void SwipeUp(TourScript& tour) {
     tour.Press(kWheelX, 280).Move(kWheelX, 220).Release(kWheelX, 160);
 }
@@ -108,6 +119,16 @@ void ShowSources(TourScript& tour) {
     tour.Set(L"source", 37).Picture("dab");
 }
 
+void ShowMenu(TourScript& tour) {
+    tour.Press(kMenuX, kMenuY).Picture("menu-button-pressed").Release(kMenuX, kMenuY).Picture("menu");
+    tour.Wait(4 * kTickMs).Picture("menu-plays");
+    tour.Press(TileX(1), kUpperTileY).Picture("menu-media-pressed").Wait(kLongPressMs);
+    tour.Release(TileX(1), kUpperTileY).Wait(4 * kTickMs).Picture("menu-media-stilled");
+    tour.Touch(TileX(1), kUpperTileY).Picture("media").Touch(kMenuX, kMenuY);
+    tour.Picture("menu-media-playing").Set(L"language", 5).Picture("menu-german").Set(L"language", 0);
+    tour.Touch(TileX(0), kUpperTileY).Picture("radio-from-the-menu");
+}
+
 }  // namespace
 
 TourScript HeadUnitTour() {
@@ -116,6 +137,7 @@ TourScript HeadUnitTour() {
     ShowAm(tour);
     ShowStrip(tour);
     ShowSources(tour);
+    ShowMenu(tour);
     return tour;
 }
 

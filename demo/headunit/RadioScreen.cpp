@@ -33,6 +33,8 @@ bool RadioScreen::OnInit() {
     CreateHint();
     sourcesButton_.Place(620, 172);
     AddChild(&sourcesButton_);
+    menuButton_.Place();
+    AddChild(&menuButton_);
     ShowBand();
     return true;
 }

@@ -8,6 +8,7 @@
 
 #include "demo/headunit/Band.h"
 #include "demo/headunit/SourcesButton.h"
+#include "demo/headunit/menu/MenuButton.h"
 
 namespace korvane::demo {
 
@@ -21,6 +22,7 @@ class RadioScreen : public CLQWindow {
     /// Ends a seek, on the frequency that it has reached.
     void StopSeeking();
     CLQButton& GetSourcesButton() { return sourcesButton_; }
+    MenuButton& GetMenuButton() { return menuButton_; }
 
   private:
     void CreateWheel();
@@ -54,6 +56,7 @@ class RadioScreen : public CLQWindow {
     CLQStatic highest_;
     CLQStatic hint_;
     SourcesButton sourcesButton_;
+    MenuButton menuButton_;
 };
 
 }  // namespace korvane::demo

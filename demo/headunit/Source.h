@@ -4,6 +4,7 @@ namespace korvane::demo {
 
 /// The source that plays unless another one was chosen.
 constexpr int kRadioSource = 0;
+constexpr int kUsbMusicSource = 6;
 
 enum class SourceScreenKind { Radio, Other };
 

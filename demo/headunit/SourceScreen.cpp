@@ -23,6 +23,8 @@ bool SourceScreen::OnInit() {
 
     sourcesButton_.Place(620, 172);
     AddChild(&sourcesButton_);
+    menuButton_.Place();
+    AddChild(&menuButton_);
     return true;
 }
 

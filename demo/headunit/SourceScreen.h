@@ -3,6 +3,7 @@
 #include "KorvaneEx.h"
 
 #include "demo/headunit/SourcesButton.h"
+#include "demo/headunit/menu/MenuButton.h"
 
 namespace korvane::demo {
 
@@ -16,12 +17,14 @@ class SourceScreen : public CLQWindow {
 
     void ShowSource(const Source& source);
     CLQButton& GetSourcesButton() { return sourcesButton_; }
+    MenuButton& GetMenuButton() { return menuButton_; }
 
   private:
     CLQImageView picture_;
     CLQStatic caption_;
     CLQStatic hint_;
     SourcesButton sourcesButton_;
+    MenuButton menuButton_;
 };
 
 }  // namespace korvane::demo

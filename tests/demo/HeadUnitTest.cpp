@@ -1,6 +1,5 @@
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <optional>
 #include <string>
 
 #include "KorvaneEx.h"
@@ -8,6 +7,7 @@
 #include "demo/headunit/HeadUnit.h"
 #include "demo/mainapp/MainApplication.h"
 #include "tests/demo/DemoScene.h"
+#include "tests/demo/HeadUnitBench.h"
 #include "tools/systemservice/SystemService.h"
 
 namespace korvane::demo {
@@ -16,13 +16,7 @@ namespace {
 
 constexpr unsigned kSecondMs = 1000;
 
-/// Where on the screen things are.
-struct Place {
-    int x;
-    int y;
-};
 constexpr Place kSourcesButton = {688, 224};
-constexpr Place kBackButton = {100, 30};
 constexpr Place kZoneButton = {617, 30};
 constexpr Place kGuideButton = {667, 30};
 constexpr Place kTrafficCancelButton = {558, 30};
@@ -32,22 +26,8 @@ constexpr Place ShortcutButton(int number) {
     return {88 + 156 * (number - 1), 137};
 }
 
-/// The head unit with the main application in its own process.
-class HeadUnitTest : public testing::Test {
+class HeadUnitTest : public HeadUnitBench {
   protected:
-    HeadUnitTest() : mainApplication_(MainApplication::KeyBeep::Silent) {
-        mainApplication_.Start();
-        headUnit_.emplace();
-        headUnit_->Create(0, 0);
-        scene_.Pump();
-    }
-
-    void Touch(Place place) { scene_.Touch(place.x, place.y); }
-    void Set(const wchar_t* field, int value) {
-        ASSERT_TRUE(service_.SetValue(field, value));
-        scene_.Pump();
-    }
-    int Get(const wchar_t* field) { return service_.Value(field, -1); }
     void ChooseShortcut(int number) {
         Touch(kSourcesButton);
         Touch(ShortcutButton(number));
@@ -61,11 +41,6 @@ class HeadUnitTest : public testing::Test {
         return caption ? caption->GetText() : L"";
     }
     bool ShowsPanel() { return scene_.ShowsControl(L"ShortCutBtn1"); }
-
-    test::DemoScene scene_;
-    tools::SystemService service_;
-    MainApplication mainApplication_;
-    std::optional<HeadUnit> headUnit_;
 };
 
 }  // namespace
