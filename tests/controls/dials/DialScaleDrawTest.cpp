@@ -230,6 +230,22 @@ TEST_F(DialScaleDraw, ReadsAnImageAnewWhenItIsNamedAgain) {
     EXPECT_EQ(smaller, LooksOf(gauge));
 }
 
+TEST_F(DialScaleDraw, ReadsNeedlesAnewWhenTheyAreNamedAgain) {
+    gauge.Prepare();
+    const std::array<CLQSurfHandle, 3> needles = Needles();
+    for (std::size_t i = 0; i < needles.size(); ++i)
+        WriteImageFile("Needle" + std::to_string(i) + ".lqi", needles[i]);
+    gauge.SetPointerSurf(L"Needle0.lqi", L"Needle1.lqi", L"Needle2.lqi");
+    const auto looks = LooksOf(gauge);
+    for (std::size_t i = 0; i < needles.size(); ++i)
+        WriteImageFile("Needle" + std::to_string(i) + ".lqi", needles[needles.size() - 1 - i]);
+    EXPECT_EQ(LooksOf(gauge), looks);
+    gauge.SetPointerSurf(L"Needle0.lqi", L"Needle1.lqi", L"Needle2.lqi");
+    EXPECT_EQ(LooksOf(gauge),
+              LooksOf({{needles[2], 0, 0, 90}, {needles[1], 0, 0, 90}, {needles[0], 0, 0, 90}}, kGaugeX + 80,
+                      kGaugeY + 80));
+}
+
 TEST_F(DialScaleDraw, KeepsItsFaceForANullName) {
     gauge.Prepare();
     CLQSurfHandle face = Checked(100, 100);

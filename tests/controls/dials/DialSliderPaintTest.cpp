@@ -161,6 +161,14 @@ TEST_F(DialSliderPaint, LabelsReachOneStepBelowTheMinimum) {
         << "693 is nine steps above";
 }
 
+TEST_F(DialSliderPaint, LabelsTheFrequencyThatLiesAWholeStepBelowTheMinimum) {
+    // 24 hundredths below, cut off, and one more are no step of 25 yet.
+    tuner.Prepare({87.5f, 108.0f, 0.25f, true, L""}, 87.25f);
+    EXPECT_EQ(LooksOf(tuner), Drawing().Ticks("LsmsmsmsmsLsmsmsmsms").Label(10, L"87.2").Pixels());
+    tuner.SetVaule(std::nextafter(87.25f, 0.0f));
+    EXPECT_EQ(LooksOf(tuner), Drawing().Ticks("LsmsmsmsmsLsmsmsmsms").Pixels());
+}
+
 TEST_F(DialSliderPaint, ShowsTheScaleWithoutAValue) {
     // 0 lies 8749 hundredths below, and one more is added: step -874.
     tuner.Prepare(FmScale(), 0.0f);

@@ -154,6 +154,17 @@ TEST_P(MenuItemCopy, ShowsTheSharedCaptionOnItself) {
     EXPECT_EQ(LooksOf(*original), looks);
 }
 
+TEST_P(MenuItemCopy, AsksForARepaintWhenTheSharedCaptionFollowsTheLanguage) {
+    auto* element = new CLQTextElement;
+    element->SetLangID(7);
+    original->BindTextElement(element);
+    Copy();
+    original->ChangeLanguage();
+    copy->Redraw(false);
+    copy->ChangeLanguage();
+    EXPECT_TRUE(copy->IsNeedRedraw()) << "also when the caption has its new text by then";
+}
+
 TEST_P(MenuItemCopy, UnbindsTheSharedCaptionFromItselfAlone) {
     Copy();
     const auto looks = LooksOf(*original);
