@@ -5,6 +5,7 @@
 #include <lz4hc.h>
 #include <zlib.h>
 
+#include "engine/core/LittleEndian.h"
 #include "engine/draw/PixelFormat.h"
 #include "engine/draw/SurfManager.h"
 #include "engine/draw/SurfaceState.h"
@@ -26,16 +27,6 @@ constexpr std::size_t kChecksumAt = 28;
 constexpr std::size_t kLz4GreatestRatio = 255;
 
 static_assert(std::size_t{kMaxSurfacePixels} * 4 + kLqiHeaderSize == kLqiMaxSize);
-
-std::uint32_t GetU32(const std::uint8_t* bytes) {
-    return bytes[0] | std::uint32_t{bytes[1]} << 8 | std::uint32_t{bytes[2]} << 16 |
-           std::uint32_t{bytes[3]} << 24;
-}
-
-void PutU32(std::uint8_t* bytes, std::uint32_t value) {
-    for (int i = 0; i < 4; ++i)
-        bytes[i] = static_cast<std::uint8_t>(value >> (8 * i));
-}
 
 /// CRC-32 of everything but the checksum's own field, which ends the header.
 std::uint32_t Checksum(const std::uint8_t* header, const std::uint8_t* payload, std::size_t payloadSize) {
@@ -62,15 +53,15 @@ bool ParseHeader(const std::uint8_t* bytes, LqiHeader& header) {
     if (BytesPerPixel(found.type) == 0 || bytes[kEncodingAt] > static_cast<std::uint8_t>(LqiEncoding::Lz4))
         return false;
     found.encoding = static_cast<LqiEncoding>(bytes[kEncodingAt]);
-    const std::uint32_t width = GetU32(bytes + kWidthAt);
-    const std::uint32_t height = GetU32(bytes + kHeightAt);
+    const std::uint32_t width = GetLittle32(bytes + kWidthAt);
+    const std::uint32_t height = GetLittle32(bytes + kHeightAt);
     if (width < 1 || width > kMaxSurfaceExtent || height < 1 || height > kMaxSurfaceExtent ||
         std::uint64_t{width} * height > kMaxSurfacePixels)
         return false;
     found.width = static_cast<int>(width);
     found.height = static_cast<int>(height);
-    found.payloadSize = GetU32(bytes + kPayloadSizeAt);
-    found.checksum = GetU32(bytes + kChecksumAt);
+    found.payloadSize = GetLittle32(bytes + kPayloadSizeAt);
+    found.checksum = GetLittle32(bytes + kChecksumAt);
     switch (found.encoding) {
         case LqiEncoding::Raw:
             if (found.payloadSize != found.PixelBytes())
@@ -93,10 +84,10 @@ void PutHeader(const SurfaceState& surface, LqiEncoding encoding, std::size_t pa
     file[kVersionAt] = kVersion;
     file[kTypeAt] = static_cast<std::uint8_t>(surface.type);
     file[kEncodingAt] = static_cast<std::uint8_t>(encoding);
-    PutU32(file + kWidthAt, static_cast<std::uint32_t>(surface.width));
-    PutU32(file + kHeightAt, static_cast<std::uint32_t>(surface.height));
-    PutU32(file + kPayloadSizeAt, static_cast<std::uint32_t>(payloadSize));
-    PutU32(file + kChecksumAt, Checksum(file, file + kLqiHeaderSize, payloadSize));
+    PutLittle32(file + kWidthAt, static_cast<std::uint32_t>(surface.width));
+    PutLittle32(file + kHeightAt, static_cast<std::uint32_t>(surface.height));
+    PutLittle32(file + kPayloadSizeAt, static_cast<std::uint32_t>(payloadSize));
+    PutLittle32(file + kChecksumAt, Checksum(file, file + kLqiHeaderSize, payloadSize));
 }
 
 }  // namespace

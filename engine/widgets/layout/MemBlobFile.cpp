@@ -4,6 +4,7 @@
 #include <utility>
 #include <zlib.h>
 
+#include "engine/core/LittleEndian.h"
 #include "engine/widgets/layout/MemBlob.h"
 #include "platform/Files.h"
 #include "platform/Unicode.h"
@@ -22,18 +23,13 @@ constexpr std::size_t kPropertySize = 8;
 constexpr std::uint32_t kNoParent = 0xFFFFFFFF;
 
 void Put16(std::vector<unsigned char>& bytes, std::uint32_t value) {
-    bytes.push_back(static_cast<unsigned char>(value));
-    bytes.push_back(static_cast<unsigned char>(value >> 8));
+    bytes.resize(bytes.size() + 2);
+    korvane::PutLittle16(bytes.data() + bytes.size() - 2, value);
 }
 
 void Put32(std::vector<unsigned char>& bytes, std::uint32_t value) {
-    Put16(bytes, value & 0xFFFF);
-    Put16(bytes, value >> 16);
-}
-
-void Put32At(std::vector<unsigned char>& bytes, std::size_t at, std::uint32_t value) {
-    for (int i = 0; i < 4; ++i)
-        bytes[at + i] = static_cast<unsigned char>(value >> 8 * i);
+    bytes.resize(bytes.size() + 4);
+    korvane::PutLittle32(bytes.data() + bytes.size() - 4, value);
 }
 
 std::uint32_t Checksum(const unsigned char* bytes, std::size_t size) {
@@ -47,11 +43,11 @@ class Reader {
 
     std::uint32_t Get16() {
         const unsigned char* at = Take(2);
-        return at ? at[0] | static_cast<std::uint32_t>(at[1]) << 8 : 0;
+        return at ? korvane::GetLittle16(at) : 0;
     }
     std::uint32_t Get32() {
-        const std::uint32_t low = Get16();
-        return low | Get16() << 16;
+        const unsigned char* at = Take(4);
+        return at ? korvane::GetLittle32(at) : 0;
     }
     std::string GetString(std::size_t length) {
         const unsigned char* at = Take(length);
@@ -129,8 +125,8 @@ std::vector<unsigned char> CLQMemBlob::ToBytes() const {
             Put32(bytes, property.value);
         }
     }
-    Put32At(bytes, kSizeAt, static_cast<std::uint32_t>(bytes.size()));
-    Put32At(bytes, kChecksumAt, Checksum(bytes.data(), bytes.size()));
+    korvane::PutLittle32(bytes.data() + kSizeAt, static_cast<std::uint32_t>(bytes.size()));
+    korvane::PutLittle32(bytes.data() + kChecksumAt, Checksum(bytes.data(), bytes.size()));
     return bytes;
 }
 
