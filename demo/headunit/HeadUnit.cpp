@@ -38,7 +38,7 @@ void HeadUnit::Create(int x, int y) {
 }
 
 void HeadUnit::CreateScreens(int x, int y) {
-    for (CLQWindow* const screen : std::initializer_list<CLQWindow*>{&radio_, &other_, &menu_}) {
+    for (CLQWindow* const screen : std::initializer_list<CLQWindow*>{&radio_, &other_, &menu_, &gauges_}) {
         screen->Create(x, y, kWidth, kHeight);
         screen->OnInit();
         screen->SetShow(false);
@@ -73,6 +73,9 @@ void HeadUnit::OnBack() {
         case Screen::Menu:
             ShowScreen(Screen::Player);
             break;
+        case Screen::Gauges:
+            ShowScreen(Screen::Menu);
+            break;
     }
 }
 
@@ -84,8 +87,10 @@ void HeadUnit::OnMenu(MenuItem item) {
         case MenuItem::Media:
             ChooseSource(lastMedium_);
             break;
-        case MenuItem::Sources:
         case MenuItem::Gauges:
+            ShowScreen(Screen::Gauges);
+            break;
+        case MenuItem::Sources:
         case MenuItem::Files:
         case MenuItem::Settings:
             break;
@@ -146,6 +151,7 @@ void HeadUnit::ShowScreen(Screen screen) {
     radio_.SetShow(isPlayer && PlaysRadio());
     other_.SetShow(isPlayer && !PlaysRadio());
     menu_.SetShow(screen == Screen::Menu);
+    gauges_.SetShow(screen == Screen::Gauges);
     strip_.ShowTitle(Title());
     strip_.SetTitleBackBtnShow(!isPlayer || !PlaysRadio());
 }
@@ -160,6 +166,8 @@ int HeadUnit::Title() const {
             return current_ ? current_->caption : kCaptionTuner;
         case Screen::Menu:
             return kCaptionMenu;
+        case Screen::Gauges:
+            return kCaptionGauges;
     }
     return kCaptionTuner;
 }

@@ -6,6 +6,7 @@
 #include "demo/headunit/Source.h"
 #include "demo/headunit/SourceScreen.h"
 #include "demo/headunit/TitleStrip.h"
+#include "demo/headunit/gauges/GaugesScreen.h"
 #include "demo/headunit/menu/MenuScreen.h"
 
 namespace korvane::demo {
@@ -27,7 +28,7 @@ class HeadUnit {
     void Create(int x, int y);
 
   private:
-    enum class Screen { Player, Menu };
+    enum class Screen { Player, Menu, Gauges };
 
     void CreateScreens(int x, int y);
     void OnSystemChanged(int item);
@@ -53,6 +54,7 @@ class HeadUnit {
     RadioScreen radio_;
     SourceScreen other_;
     MenuScreen menu_;
+    GaugesScreen gauges_;
     TitleStrip strip_;
 };
 

@@ -27,6 +27,8 @@ constexpr unsigned kMinuteMs = 60000;
 constexpr int kMenuX = 88;
 constexpr int kMenuY = 453;
 constexpr unsigned kLongPressMs = 2000;
+constexpr int kDriveX = 630;
+constexpr int kDriveY = 424;
 
 /// The tiles of the menu from the left, in the upper row and the lower one.
 constexpr int TileX(int column) {
@@ -129,6 +131,14 @@ void ShowMenu(TourScript& tour) {
     tour.Touch(TileX(0), kUpperTileY).Picture("radio-from-the-menu");
 }
 
+void ShowGauges(TourScript& tour) {
+    tour.Touch(kMenuX, kMenuY).Touch(TileX(0), kLowerTileY).Picture("gauges");
+    tour.Wait(8000).Picture("gauges-in-town").Wait(20000).Picture("gauges-on-the-motorway");
+    tour.Press(kDriveX, kDriveY).Picture("gauges-stop-pressed").Release(kDriveX, kDriveY).Wait(kMinuteMs);
+    tour.Set(L"language", 13).Picture("gauges-stopped-french").Set(L"language", 0);
+    tour.Touch(kBackX, kStripY).Picture("menu-again").Touch(kBackX, kStripY);
+}
+
 }  // namespace
 
 TourScript HeadUnitTour() {
@@ -138,6 +148,7 @@ TourScript HeadUnitTour() {
     ShowStrip(tour);
     ShowSources(tour);
     ShowMenu(tour);
+    ShowGauges(tour);
     return tour;
 }
 

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "platform/Files.h"
+#include "platform/InterprocessLock.h"
 #include "platform/Simulation.h"
 
 #include "tools/headunitctl/HeadUnitWindow.h"
@@ -10,6 +11,9 @@
 namespace korvane::demo {
 
 namespace {
+
+constexpr wchar_t kStarting[] = L"headUnit";
+constexpr unsigned kPatienceMs = 2000;
 
 /// More than any sequence of touches causes; a bound, should messages come without end.
 constexpr int kMostWaiting = 10000;
@@ -88,12 +92,17 @@ bool RemoteControl::IsTaken() {
     return FindWindowW(tools::kHeadUnitClass, nullptr) != nullptr;
 }
 
-void RemoteControl::Open() {
-    if (window_ || !RegisterRemoteClass())
-        return;
+bool RemoteControl::Open() {
+    // Of two that start at once, one finds the other's window.
+    const InterprocessLock starting(kStarting, kPatienceMs);
+    if (IsTaken())
+        return false;
+    if (!RegisterRemoteClass())
+        return true;
     RemoveOldPictures();
     window_ = CreateWindowExW(0, tools::kHeadUnitClass, tools::kHeadUnitClass, WS_POPUP, 0, 0, 0, 0, nullptr,
                               nullptr, nullptr, nullptr);
+    return true;
 }
 
 }  // namespace korvane::demo

@@ -16,8 +16,9 @@ class RemoteControl {
     /// True when a head unit answers on this device, in this process or another.
     static bool IsTaken();
 
-    /// Opens the window. Without it the head unit works all the same.
-    void Open();
+    /// Opens the window. False when a head unit has opened its own before; where there can be no window at
+    /// all the head unit works without.
+    bool Open();
 
   private:
     HWND window_ = nullptr;

@@ -100,24 +100,31 @@ void Create(HeadUnit& headUnit, const Options& options) {
                     (options.size.height - HeadUnit::kHeight) / 2);
 }
 
+int ComplainOfAnother() {
+    Complain("a head unit is running on this device already");
+    return kFailure;
+}
+
 int RunOnDisplay(const Options& options) {
-    if (RemoteControl::IsTaken()) {
-        Complain("a head unit is running on this device already");
-        return kFailure;
-    }
+    if (RemoteControl::IsTaken())
+        return ComplainOfAnother();
     CLQScreen* screen = CLQScreen::GetInstance();
     if (!screen->Open(options.display.c_str(), options.size.width, options.size.height, kTitle)) {
         Complain("cannot open the display \"" + options.display + "\": " + korvane::DisplayFailure());
         return kNoDisplay;
     }
     {
+        // First, so that another head unit that starts at this moment takes nothing in hand.
+        RemoteControl remote;
+        if (!remote.Open()) {
+            screen->Close();
+            return ComplainOfAnother();
+        }
         // Unless it runs in a process of its own.
         MainApplication mainApplication(MainApplication::KeyBeep::Sounding);
         mainApplication.Start();
         HeadUnit headUnit;
         Create(headUnit, options);
-        RemoteControl remote;
-        remote.Open();
         // Whoever started the program can wait for this line.
         std::puts("headunit: ready");
         std::fflush(stdout);
