@@ -117,15 +117,21 @@ TEST_F(ThreeProcesses, LetNoSecondOfAKindIn) {
     EXPECT_EQ(otherUnit.Errors(), "headunit: a head unit is running on this device already\n");
 }
 
-TEST_F(ThreeProcesses, LetOneMainApplicationInOfManyThatStartAtOnce) {
-    std::vector<std::unique_ptr<Program>> programs;
-    for (int i = 0; i < 8; ++i)
-        programs.push_back(std::make_unique<Program>(
-            std::vector<std::string>{KORVANE_TEST_MAINAPP, "--device-root", DeviceRoot()}));
-    int running = 0;
-    for (const auto& program : programs)
-        running += program->WaitForLine("mainapp: ready") ? 1 : 0;
-    EXPECT_EQ(running, 1);
+TEST_F(ThreeProcesses, LetOneOfAKindInOfManyThatStartAtOnce) {
+    const std::vector<std::string> mainApplication = {KORVANE_TEST_MAINAPP, "--device-root", DeviceRoot()};
+    const std::vector<std::string> headUnit = {KORVANE_TEST_HEADUNIT, "--display", "memory", "--device-root",
+                                               DeviceRoot()};
+    const std::pair<std::vector<std::string>, const char*> kinds[] = {{mainApplication, "mainapp: ready"},
+                                                                      {headUnit, "headunit: ready"}};
+    for (const auto& [command, ready] : kinds) {
+        std::vector<std::unique_ptr<Program>> programs;
+        for (int i = 0; i < 6; ++i)
+            programs.push_back(std::make_unique<Program>(command));
+        int running = 0;
+        for (const auto& program : programs)
+            running += program->WaitForLine(ready) ? 1 : 0;
+        EXPECT_EQ(running, 1) << ready;
+    }
 }
 
 /// What the main application says when keys are to beep again and again.
