@@ -87,7 +87,7 @@ void PlaceArrow(CLQButton* arrow, const file_view::Box& box, const wchar_t* file
     auto image = std::make_unique<CLQImageElement>();
     image->SetImage(eImage_Normal, file);
     if (arrow->AddGUIElement(image.get()))
-        image.release();
+        static_cast<void>(image.release());  // the button's from here on
 }
 
 void ShowNeighbour(CLQButton* arrow, CLQStatic* label, const std::wstring& text) {

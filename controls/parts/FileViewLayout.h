@@ -26,7 +26,8 @@ constexpr int kBottomLabelY = 409;
 /// The left edge of a child that is centred with 5 pixels left and right of it.
 inline int CentredX(const Box& view, int width) {
     constexpr int kMargin = 5;
-    return Saturated(std::int64_t{view.x} + (std::int64_t{view.width} - width - 2 * kMargin) / 2 + kMargin);
+    constexpr int kMargins = 2 * kMargin;
+    return Saturated(std::int64_t{view.x} + (std::int64_t{view.width} - width - kMargins) / 2 + kMargin);
 }
 
 inline Box IconBox(const Box& view) {
