@@ -29,6 +29,7 @@ void HeadUnit::Create(int x, int y) {
     for (MenuButton* const button : {&radio_.GetMenuButton(), &other_.GetMenuButton()})
         button->WhenTouched([this] { ShowScreen(Screen::Menu); });
     menu_.WhenChosen([this](MenuItem item) { OnMenu(item); });
+    sources_.WhenChosen([this](int id) { ChooseSource(id); });
     strip_.SetTitleBackBtnID(kCaptionBack);
     strip_.WhenBack([this] { OnBack(); });
     strip_.WhenSystemChanged([this](int item) { OnSystemChanged(item); });
@@ -38,7 +39,8 @@ void HeadUnit::Create(int x, int y) {
 }
 
 void HeadUnit::CreateScreens(int x, int y) {
-    for (CLQWindow* const screen : std::initializer_list<CLQWindow*>{&radio_, &other_, &menu_, &gauges_}) {
+    for (CLQWindow* const screen :
+         std::initializer_list<CLQWindow*>{&radio_, &other_, &menu_, &sources_, &gauges_}) {
         screen->Create(x, y, kWidth, kHeight);
         screen->OnInit();
         screen->SetShow(false);
@@ -73,6 +75,7 @@ void HeadUnit::OnBack() {
         case Screen::Menu:
             ShowScreen(Screen::Player);
             break;
+        case Screen::Sources:
         case Screen::Gauges:
             ShowScreen(Screen::Menu);
             break;
@@ -87,10 +90,12 @@ void HeadUnit::OnMenu(MenuItem item) {
         case MenuItem::Media:
             ChooseSource(lastMedium_);
             break;
+        case MenuItem::Sources:
+            ShowScreen(Screen::Sources);
+            break;
         case MenuItem::Gauges:
             ShowScreen(Screen::Gauges);
             break;
-        case MenuItem::Sources:
         case MenuItem::Files:
         case MenuItem::Settings:
             break;
@@ -138,6 +143,7 @@ void HeadUnit::ShowSource() {
     }
     if (source->screen == SourceScreenKind::Other)
         other_.ShowSource(*source);
+    sources_.ShowSource(*source);
     menu_.MarkPlaying(MenuItem::Radio, PlaysRadio());
     menu_.MarkPlaying(MenuItem::Media, source->hasPlayTime);
     ShowScreen(Screen::Player);
@@ -151,6 +157,7 @@ void HeadUnit::ShowScreen(Screen screen) {
     radio_.SetShow(isPlayer && PlaysRadio());
     other_.SetShow(isPlayer && !PlaysRadio());
     menu_.SetShow(screen == Screen::Menu);
+    sources_.SetShow(screen == Screen::Sources);
     gauges_.SetShow(screen == Screen::Gauges);
     strip_.ShowTitle(Title());
     strip_.SetTitleBackBtnShow(!isPlayer || !PlaysRadio());
@@ -166,6 +173,8 @@ int HeadUnit::Title() const {
             return current_ ? current_->caption : kCaptionTuner;
         case Screen::Menu:
             return kCaptionMenu;
+        case Screen::Sources:
+            return kCaptionSources;
         case Screen::Gauges:
             return kCaptionGauges;
     }

@@ -8,6 +8,7 @@
 #include "demo/headunit/TitleStrip.h"
 #include "demo/headunit/gauges/GaugesScreen.h"
 #include "demo/headunit/menu/MenuScreen.h"
+#include "demo/headunit/sources/SourcesScreen.h"
 
 namespace korvane::demo {
 
@@ -28,7 +29,7 @@ class HeadUnit {
     void Create(int x, int y);
 
   private:
-    enum class Screen { Player, Menu, Gauges };
+    enum class Screen { Player, Menu, Sources, Gauges };
 
     void CreateScreens(int x, int y);
     void OnSystemChanged(int item);
@@ -54,6 +55,7 @@ class HeadUnit {
     RadioScreen radio_;
     SourceScreen other_;
     MenuScreen menu_;
+    SourcesScreen sources_;
     GaugesScreen gauges_;
     TitleStrip strip_;
 };

@@ -30,6 +30,12 @@ constexpr unsigned kLongPressMs = 2000;
 constexpr int kDriveX = 630;
 constexpr int kDriveY = 424;
 
+constexpr int kListX = 180;
+/// The cells of the list of sources, from the top.
+constexpr int ListCellY(int cell) {
+    return 110 + 80 * cell;
+}
+
 /// The tiles of the menu from the left, in the upper row and the lower one.
 constexpr int TileX(int column) {
     return 141 + 259 * column;
@@ -139,6 +145,15 @@ void ShowGauges(TourScript& tour) {
     tour.Touch(kBackX, kStripY).Picture("menu-again").Touch(kBackX, kStripY);
 }
 
+void ShowSourceList(TourScript& tour) {
+    tour.Touch(kMenuX, kMenuY).Touch(TileX(2), kUpperTileY).Picture("source-list");
+    tour.Press(kListX, ListCellY(4)).Picture("source-list-page-pressed").Release(kListX, ListCellY(4));
+    tour.Picture("source-list-second-page").Touch(kListX, ListCellY(1)).Picture("bluetooth");
+    tour.Touch(kMenuX, kMenuY).Touch(TileX(2), kUpperTileY).Set(L"language", 11);
+    tour.Picture("source-list-greek").Set(L"language", 0).Touch(kListX, ListCellY(4));
+    tour.Touch(kListX, ListCellY(0)).Picture("radio-from-the-list");
+}
+
 }  // namespace
 
 TourScript HeadUnitTour() {
@@ -149,6 +164,7 @@ TourScript HeadUnitTour() {
     ShowSources(tour);
     ShowMenu(tour);
     ShowGauges(tour);
+    ShowSourceList(tour);
     return tour;
 }
 

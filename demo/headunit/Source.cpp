@@ -9,12 +9,11 @@ namespace korvane::demo {
 
 namespace {
 
-constexpr int kNoHint = 0;
 constexpr bool kTimed = true;
 constexpr bool kUntimed = false;
 
 constexpr Source kSources[] = {
-    {kRadioSource, kCaptionTuner, kNoHint, L"source_tuner.lqi", SourceScreenKind::Radio, kUntimed},
+    {kRadioSource, kCaptionTuner, kCaptionNowPlaying, L"source_tuner.lqi", SourceScreenKind::Radio, kUntimed},
     {4, kCaptionDiscAudio, kCaptionNowPlaying, L"source_disc_audio.lqi", SourceScreenKind::Other, kTimed},
     {5, kCaptionDiscVideo, kCaptionNowPlaying, L"source_disc_video.lqi", SourceScreenKind::Other, kTimed},
     {kUsbMusicSource, kCaptionUsbAudio, kCaptionNowPlaying, L"source_usb_audio.lqi", SourceScreenKind::Other,
@@ -31,7 +30,7 @@ constexpr Source kSources[] = {
     {17, kCaptionNavi, kCaptionNoNavigation, L"source_navi.lqi", SourceScreenKind::Other, kUntimed},
     {18, kCaptionTv, kCaptionNoPicture, L"source_tv.lqi", SourceScreenKind::Other, kUntimed},
     {35, kCaptionAudioOff, kCaptionAudioIsOff, L"source_audio_off.lqi", SourceScreenKind::Other, kUntimed},
-    {37, kCaptionDab, kNoHint, L"source_dab.lqi", SourceScreenKind::Radio, kUntimed},
+    {37, kCaptionDab, kCaptionNowPlaying, L"source_dab.lqi", SourceScreenKind::Radio, kUntimed},
 };
 
 }  // namespace

@@ -12,7 +12,7 @@ enum class SourceScreenKind { Radio, Other };
 struct Source {
     int id;       ///< as the main application and the system record number it
     int caption;  ///< its name in the language table
-    int hint;     ///< what there is to say about it, likewise; 0 for nothing
+    int hint;     ///< what there is to say about it, likewise
     const wchar_t* picture;
     SourceScreenKind screen;
     bool hasPlayTime;

@@ -1,0 +1,154 @@
+#include "demo/headunit/sources/SourcesScreen.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "demo/headunit/Captions.h"
+#include "demo/headunit/Source.h"
+
+namespace korvane::demo {
+
+namespace {
+
+constexpr int kNone = -1;
+constexpr int kNoCaption = 0;
+constexpr int kCellsOfPage = 5;
+
+/// A cell of the list: its source, or kNone where it switches pages.
+struct Cell {
+    int source;
+    int caption;
+    const wchar_t* icon;
+};
+constexpr Cell kCells[] = {
+    {kRadioSource, kCaptionTuner, L"switch_tuner"},
+    {37, kCaptionDab, L"switch_dab"},
+    {4, kCaptionDiscAudio, L"switch_disc_audio"},
+    {kUsbMusicSource, kCaptionUsbAudio, L"switch_usb_audio"},
+    {kNone, kNoCaption, L"switch_page_down"},
+    {8, kCaptionIpodAudio, L"switch_ipod_audio"},
+    {11, kCaptionBtAudio, L"switch_bt_audio"},
+    {13, kCaptionAux1, L"switch_aux1"},
+    {18, kCaptionTv, L"switch_tv"},
+    {kNone, kNoCaption, L"switch_page_up"},
+};
+
+int CellOf(int source) {
+    const Cell* const found = std::find_if(std::begin(kCells), std::end(kCells),
+                                           [source](const Cell& cell) { return cell.source == source; });
+    return found == std::end(kCells) ? kNone : static_cast<int>(found - std::begin(kCells));
+}
+
+/// Loads one look of all cells, and returns what the list borrows.
+std::vector<CLQSurfHandle*> LoadLook(std::vector<CLQSurfHandle>& icons, const wchar_t* look) {
+    for (const Cell& cell : kCells) {
+        const std::wstring file = std::wstring(cell.icon) + look;
+        icons.push_back(CLQSurfManager::GetInstance()->CreateSurface(file.c_str(), true));
+    }
+    std::vector<CLQSurfHandle*> borrowed;
+    for (CLQSurfHandle& icon : icons)
+        borrowed.push_back(&icon);
+    return borrowed;
+}
+
+}  // namespace
+
+SourcesScreen* SourcesScreen::instance_ = nullptr;
+
+SourcesScreen::SourcesScreen() {
+    instance_ = this;
+}
+
+SourcesScreen::~SourcesScreen() {
+    instance_ = nullptr;
+}
+
+bool SourcesScreen::Create(int x, int y, int width, int height) {
+    top_ = y;
+    return CLQWindow::Create(x, 0, width, y + height);
+}
+
+bool SourcesScreen::OnInit() {
+    background_.Create(0, top_, 800, 480);
+    background_.SetImagePath(L"SourceBkg.lqi");
+    AddChild(&background_);
+    CreateList();
+    CreatePicture();
+    return true;
+}
+
+void SourcesScreen::CreateList() {
+    list_.Create(60, top_ + 70, 240, 400);
+    list_.SetBkgSurf(L"SwitchBkg.lqi");
+    list_.SetIconNumPrePage(kCellsOfPage);
+    std::vector<CLQSurfHandle*> normal = LoadLook(icons_[0], L"_n.lqi");
+    std::vector<CLQSurfHandle*> active = LoadLook(icons_[1], L"_p.lqi");
+    std::vector<CLQSurfHandle*> focus = LoadLook(icons_[2], L"_f.lqi");
+    std::vector<CLQSurfHandle*> disabled = LoadLook(icons_[3], L"_d.lqi");
+    list_.SetIconNormalSurf(normal);
+    list_.SetIconActiveSurf(active);
+    list_.SetIconFocusSurf(focus);
+    list_.SetIconDisableSurf(disabled);
+
+    std::vector<int> captions;
+    for (const Cell& cell : kCells)
+        captions.push_back(cell.caption);
+    list_.SetText(captions);
+    list_.SetFontSize(17, 17);
+    _LQColor pale = {230, 238, 250, 255};
+    _LQColor white = {255, 255, 255, 255};
+    _LQColor amber = {255, 181, 74, 255};
+    list_.SetTextColor(eTextColor_Normal, pale);
+    list_.SetTextColor(eTextColor_Active, white);
+    list_.SetTextColor(eTextColor_Focus, amber);
+    // The callback gets no context.
+    list_.SetCallBackClick([](int cell, bool changed) {
+        if (instance_)
+            instance_->OnClick(cell, changed);
+    });
+    AddChild(&list_);
+}
+
+void SourcesScreen::CreatePicture() {
+    picture_.Create(430, top_ + 100, 240, 240);
+    AddChild(&picture_);
+
+    name_.Create(330, top_ + 350, 440, 48);
+    name_.SetFontSize(34, 34);
+    name_.SetTextStyle(eText_HCenter | eText_VCenter);
+    AddChild(&name_);
+
+    _LQColor grey = {159, 180, 208, 255};
+    hint_.Create(330, top_ + 400, 440, 36);
+    hint_.SetFontSize(22, 22);
+    hint_.SetTextStyle(eText_HCenter | eText_VCenter);
+    hint_.SetTextColor(grey);
+    AddChild(&hint_);
+}
+
+void SourcesScreen::SetShow(bool show) {
+    CLQWindow::SetShow(show);
+    if (show)
+        list_.SetPageDown(playing_ >= kCellsOfPage);
+}
+
+void SourcesScreen::ShowSource(const Source& source) {
+    playing_ = CellOf(source.id);
+    list_.SetFouceIndex(playing_);
+    picture_.SetImagePath(source.picture);
+    name_.SetLangID(source.caption);
+    hint_.SetLangID(source.hint);
+}
+
+void SourcesScreen::OnClick(int cell, bool changed) {
+    const int source = kCells[cell].source;
+    if (source == kNone)
+        return;
+    // A click on the selected source has taken the selection away.
+    if (!changed)
+        list_.SetFouceIndex(playing_);
+    if (onChosen_)
+        onChosen_(source);
+}
+
+}  // namespace korvane::demo
