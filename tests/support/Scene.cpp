@@ -51,6 +51,8 @@ Scene::~Scene() {
     UseSystemClock();
     SetDeviceRoot(root_.string());
     RemoveSharedMemory();
+    // A test without a scene may be the first one that needs a font.
+    SetDeviceRoot({});
     std::error_code ignored;
     fs::remove_all(root_, ignored);
 }
