@@ -123,6 +123,24 @@ TEST_P(MenuItemCopy, HoldsNoPressAndHasALongPressOfItsOwn) {
     EXPECT_EQ(listener.longPressed.back(), original.get());
 }
 
+TEST_P(MenuItemCopy, TimesALongPressByItsOwnTime) {
+    Press(*original, kX, kY);
+    Release(*original, kX, kY);
+    Copy();
+    copy->SetLongPressTime(900);
+    Press(*original, kX, kY);
+    scene.Advance(499);
+    EXPECT_TRUE(listener.longPressed.empty());
+    scene.Advance(1);
+    EXPECT_EQ(listener.longPressed, std::vector<TestTile*>{original.get()});
+    Release(*original, kX, kY);
+    Press(*copy, kX, kY);
+    scene.Advance(899);
+    EXPECT_EQ(listener.longPressed.size(), 1u);
+    scene.Advance(1);
+    EXPECT_EQ(listener.longPressed.size(), 2u);
+}
+
 TEST_P(MenuItemCopy, EndsDuringALongPressOfItsOriginal) {
     Press(*original, kX, kY);
     Copy();

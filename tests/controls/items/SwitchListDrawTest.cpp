@@ -432,6 +432,14 @@ TEST_F(SwitchListBackground, LiesBelowTheIcons) {
     EXPECT_EQ(LooksOf(list), drawing.Pixels());
 }
 
+TEST_F(SwitchListBackground, IsReadAnewWhenItIsNamedAgain) {
+    WriteBackground(80, 200);
+    WriteImage(scene.ImageFolder() / "Background.lqi", icons.focus.surfaces[3]);
+    list.SetSize(56, 38);
+    list.SetBkgSurf(L"Background.lqi");
+    EXPECT_EQ(LooksOf(list), Drawing().Icon(Focus(3), 0).Pixels());
+}
+
 TEST_F(SwitchListBackground, OfAMissingFileIsNone) {
     WriteBackground(80, 200);
     list.SetBkgSurf(L"Missing.lqi");
@@ -519,6 +527,13 @@ TEST(SwitchListLayout, CentresAPictureAsItWouldLieAfterScaling) {
         EXPECT_EQ(offset.x, c.x) << c.width << " by " << c.height;
         EXPECT_EQ(offset.y, c.y) << c.width << " by " << c.height;
     }
+}
+
+TEST(SwitchListLayout, CountsItemsAlsoAboveTheFirstCellOfAPage) {
+    EXPECT_EQ(switch_list::ItemAt(-39, 200, 5, false), 0);
+    EXPECT_EQ(switch_list::ItemAt(-40, 200, 5, false), -1);
+    EXPECT_EQ(switch_list::ItemAt(-39, 200, 5, true), 5);
+    EXPECT_EQ(switch_list::ItemAt(-40, 200, 5, true), 4);
 }
 
 TEST(SwitchListLayout, SwitchesPagesAtEachLastCell) {
