@@ -316,6 +316,9 @@ TEST_F(MenuItemNames, NumberFramesAsTheirPatternSays) {
 }
 
 TEST_F(MenuItemNames, NameNoFileByAnythingButTwoIntegers) {
+    // The files that some of them would name with the number counted from 0 in place of what is missing.
+    for (const char* name : {"100.lqi", "0.lqi", "1", "10"})
+        WriteFrame(name, ColorOf(1));
     for (const wchar_t* pattern : {L"%s",
                                    L"%ls.lqi",
                                    L"%S",
