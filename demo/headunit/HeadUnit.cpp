@@ -108,6 +108,11 @@ void HeadUnit::ChooseSource(int id) {
         ShowScreen(Screen::Player);
         return;
     }
+    const Source* const source = FindSource(id);
+    if (source && !source->IsPresent(record_)) {
+        strip_.ShowNotice(kCaptionNotConnected);
+        return;
+    }
     const HWND mainWindow = FindWindowW(nullptr, kMainWindowName);
     if (mainWindow)
         PostMessageW(mainWindow, kMainSourceChosen, 1, id);

@@ -149,7 +149,8 @@ void ShowSourceList(TourScript& tour) {
     tour.Touch(kMenuX, kMenuY).Touch(TileX(2), kUpperTileY).Picture("source-list");
     tour.Press(kListX, ListCellY(4)).Picture("source-list-page-pressed").Release(kListX, ListCellY(4));
     tour.Picture("source-list-second-page").Touch(kListX, ListCellY(1)).Picture("bluetooth");
-    tour.Touch(kMenuX, kMenuY).Touch(TileX(2), kUpperTileY).Set(L"language", 11);
+    tour.Touch(kMenuX, kMenuY).Touch(TileX(2), kUpperTileY).Set(L"tvPresent", 0);
+    tour.Touch(kListX, ListCellY(3)).Picture("source-list-no-tv").Wait(kNoticeMs).Set(L"language", 11);
     tour.Picture("source-list-greek").Set(L"language", 0).Touch(kListX, ListCellY(4));
     tour.Touch(kListX, ListCellY(0)).Picture("radio-from-the-list");
 }

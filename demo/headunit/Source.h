@@ -1,5 +1,7 @@
 #pragma once
 
+#include "KorvaneEx.h"
+
 namespace korvane::demo {
 
 /// The source that plays unless another one was chosen.
@@ -16,6 +18,11 @@ struct Source {
     const wchar_t* picture;
     SourceScreenKind screen;
     bool hasPlayTime;
+    /// The field of the system record that tells whether its device is there; null for one that always is.
+    const unsigned char _LQSysInfo::*presence;
+
+    /// Without a record no device is.
+    bool IsPresent(const _LQSysInfo* record) const { return !presence || (record && record->*presence != 0); }
 };
 
 /// Null for an id that is no source.

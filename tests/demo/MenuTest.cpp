@@ -87,6 +87,16 @@ TEST_F(MenuTest, LeadsToTheMediumThatPlayedLast) {
     EXPECT_TRUE(scene_.Shows(L"Disc"));
 }
 
+TEST_F(MenuTest, SaysThatTheMediumIsNotThere) {
+    Set(L"usbPresent", 0);
+    Touch(kMenuButton);
+    Touch(kMediaTile);
+    EXPECT_TRUE(scene_.Shows(L"Not connected"));
+    EXPECT_EQ(Get(L"source"), 0);
+    Touch(kBackButton);
+    EXPECT_TRUE(ShowsRadio());
+}
+
 TEST_F(MenuTest, MakesRoomForASourceThatSomebodyElseChose) {
     Touch(kMenuButton);
     Set(L"source", 12);

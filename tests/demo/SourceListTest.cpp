@@ -64,6 +64,20 @@ TEST_F(SourceListTest, ComesBackToTheFirstPage) {
     EXPECT_EQ(Get(L"source"), 4);
 }
 
+TEST_F(SourceListTest, SaysThatADeviceIsNotThere) {
+    Set(L"discAudioPresent", 0);
+    OpenList();
+    TouchCell(2);
+    EXPECT_EQ(Get(L"source"), 0);
+    EXPECT_TRUE(scene_.Shows(L"Not connected"));
+    scene_.Advance(4000);
+    EXPECT_TRUE(ShowsList());
+    EXPECT_FALSE(scene_.Shows(L"Not connected"));
+    Set(L"discAudioPresent", 1);
+    TouchCell(2);
+    EXPECT_EQ(Get(L"source"), 4);
+}
+
 TEST_F(SourceListTest, OpensOnThePageOfWhatPlays) {
     Set(L"source", 13);
     OpenList();
