@@ -6,6 +6,7 @@
 
 #include "demo/headunit/gauges/Drive.h"
 #include "tests/demo/HeadUnitBench.h"
+#include "tests/support/ReferenceImage.h"
 
 namespace korvane::demo {
 
@@ -92,6 +93,7 @@ TEST_F(GaugesTest, ShowTheDriveInNumbersAndNeedles) {
     constexpr Place kSpeedNeedle = {250 - 119, 270 + 10};
     const auto at = static_cast<std::size_t>(kSpeedNeedle.y * 800 + kSpeedNeedle.x);
     EXPECT_NE(scene_.Pixels()[at], resting[at]);
+    EXPECT_TRUE(test::MatchesReference(CLQScreen::GetInstance()->GetScreenSurfHandle(), "demo-gauges"));
 }
 
 TEST_F(GaugesTest, DriveOnOnlyWhileTheyAreShown) {

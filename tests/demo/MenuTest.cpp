@@ -4,6 +4,7 @@
 #include "KorvaneEx.h"
 
 #include "tests/demo/HeadUnitBench.h"
+#include "tests/support/ReferenceImage.h"
 
 namespace korvane::demo {
 
@@ -117,6 +118,13 @@ TEST_F(MenuTest, MarksWhatPlays) {
     Touch(kMenuButton);
     EXPECT_EQ(RadioMark(), plain);
     EXPECT_EQ(MediaMark(), plain);
+}
+
+TEST_F(MenuTest, DimsWhatIsNotThereAndLightsWhatIsPressed) {
+    Touch(kMenuButton);
+    scene_.Advance(3 * kImageMs);
+    scene_.Press(kMediaTile.x, kMediaTile.y);
+    EXPECT_TRUE(test::MatchesReference(CLQScreen::GetInstance()->GetScreenSurfHandle(), "demo-menu-opened"));
 }
 
 TEST_F(MenuTest, DoesNothingForATileThatLeadsNowhere) {
