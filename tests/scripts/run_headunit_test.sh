@@ -19,7 +19,7 @@ cat >"$programs/mainapp" <<'PROGRAM'
 [[ ! -e $SCRATCH/refuses ]] || exit 1
 echo $$ >"$SCRATCH/main"
 echo "mainapp: ready"
-exec tail -f /dev/null
+exec sleep infinity
 PROGRAM
 cat >"$programs/headunit" <<'PROGRAM'
 #!/bin/bash

@@ -22,8 +22,8 @@ bool CountsMalloc() {
 
 }  // namespace korvane::test
 
-// Apart from what they count, so that the compiler does not see that new is malloc. The forms for arrays are
-// here because a sanitizer's own would not come by here.
+// Apart from what they count, so that the compiler does not see that new is malloc. The forms for arrays
+// and those that do not throw are here because a sanitizer's own would not come by here.
 
 void* operator new(std::size_t size) {
     ++allocations;
@@ -33,6 +33,13 @@ void* operator new(std::size_t size) {
 }
 void* operator new[](std::size_t size) {
     return operator new(size);
+}
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    ++allocations;
+    return std::malloc(size == 0 ? 1 : size);
+}
+void* operator new[](std::size_t size, const std::nothrow_t& nothrow) noexcept {
+    return operator new(size, nothrow);
 }
 void operator delete(void* memory) noexcept {
     std::free(memory);

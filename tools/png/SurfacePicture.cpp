@@ -7,8 +7,8 @@
 namespace korvane::png {
 
 CLQSurfHandle ToSurface(const Picture& picture) {
-    CLQSurfHandle surface = CLQSurfManager::GetInstance()->CreateSurface(picture.width, picture.height,
-                                                                         eSurface_ARGB8888, true);
+    CLQSurfHandle surface =
+        CLQSurfManager::GetInstance()->CreateSurface(picture.width, picture.height, eSurface_ARGB8888, true);
     CLQSurface* const target = surface.GetSurface();
     if (!target)
         return surface;
