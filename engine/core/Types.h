@@ -59,7 +59,7 @@ enum eScrollType {
 };
 
 /// The eight border pieces of a tile: four of its focus frame, four of its normal frame.
-enum eBorderDirection {
+enum eBorderDirection : int {
     eBorder_FocusLeft = 0,
     eBorder_FocusTop = 1,
     eBorder_FocusRight = 2,
