@@ -1,17 +1,16 @@
 #pragma once
 
-#include <string>
+// The calls that take a path of the device or follow the clock come from this library: they honour a device
+// root and the manual clock, and are the system's own otherwise. All others are the system's own at once.
+//
+// The headers that declare the system's calls come before, since the names are macros from here on. A source
+// that calls the system's own includes <windows.h> and not platform/coredll.h.
 
-#include "platform/Export.h"
+#include <stdio.h>
+#include <stdlib.h>
+#include <wchar.h>
 
-/// The device's wide form of GetProcAddress, which desktop Windows lacks. Exported names are plain ASCII: any
-/// other name finds nothing.
-inline FARPROC GetProcAddressW(HMODULE module, LPCWSTR name) {
-    std::string narrow;
-    for (; name && *name; ++name) {
-        if (*name > 0x7F)
-            return nullptr;
-        narrow.push_back(static_cast<char>(*name));
-    }
-    return narrow.empty() ? nullptr : GetProcAddress(module, narrow.c_str());
-}
+#include "platform/windows/coredll/Clock.h"
+#include "platform/windows/coredll/Files.h"
+#include "platform/windows/coredll/Library.h"
+#include "platform/windows/coredll/Messages.h"

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/Export.h"
+
+namespace korvane::desktop {
+
+/// Loads a library by its path on the device.
+KORVANE_API HMODULE LoadLibraryW(LPCWSTR path);
+
+}  // namespace korvane::desktop
+
+/// The device's wide form of GetProcAddress, which desktop Windows lacks. Exported names are plain ASCII: any
+/// other name finds nothing.
+KORVANE_API FARPROC GetProcAddressW(HMODULE module, LPCWSTR name);
+
+#define LoadLibraryW korvane::desktop::LoadLibraryW
