@@ -2,12 +2,12 @@
 
 #include "KorvaneEx.h"
 
-#include "demo/headunit/RadioScreen.h"
 #include "demo/headunit/Source.h"
 #include "demo/headunit/SourceScreen.h"
 #include "demo/headunit/TitleStrip.h"
 #include "demo/headunit/gauges/GaugesScreen.h"
 #include "demo/headunit/menu/MenuScreen.h"
+#include "demo/headunit/radio/RadioScreen.h"
 #include "demo/headunit/sources/SourcesScreen.h"
 
 namespace korvane::demo {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "demo/headunit/Band.h"
+#include "demo/headunit/radio/Band.h"
 
 namespace korvane::demo {
 

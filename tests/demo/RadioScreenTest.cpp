@@ -2,7 +2,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "demo/headunit/RadioScreen.h"
+#include "demo/headunit/radio/RadioScreen.h"
 #include "tests/demo/DemoScene.h"
 
 namespace korvane::demo {

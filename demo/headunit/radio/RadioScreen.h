@@ -6,9 +6,9 @@
 
 #include "KorvaneEx.h"
 
-#include "demo/headunit/Band.h"
 #include "demo/headunit/SourcesButton.h"
 #include "demo/headunit/menu/MenuButton.h"
+#include "demo/headunit/radio/Band.h"
 
 namespace korvane::demo {
 

@@ -1,4 +1,4 @@
-#include "demo/headunit/Band.h"
+#include "demo/headunit/radio/Band.h"
 
 #include <cmath>
 #include <cwchar>

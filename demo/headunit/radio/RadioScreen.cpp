@@ -1,4 +1,4 @@
-#include "demo/headunit/RadioScreen.h"
+#include "demo/headunit/radio/RadioScreen.h"
 
 #include "demo/headunit/Captions.h"
 
