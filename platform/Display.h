@@ -36,10 +36,14 @@ class Display {
     virtual const std::uint32_t* Shown() const { return nullptr; }
 };
 
-/// A display by name: "memory" keeps what is presented and has no events; any other name is a module beside
-/// this library ("sdl": a window, or the whole screen of a device), loaded only here. Null, with
-/// DisplayFailure saying why, when there is none of that name.
+/// A display by name. "memory" keeps what is presented and has no events. On Windows "win32" makes the owner
+/// a window that the user sees and touches. Elsewhere any other name is a module beside this library ("sdl":
+/// a window, or the whole screen of a device), loaded only here. Null, with DisplayFailure saying why, when
+/// there is none of that name.
 KORVANE_API std::unique_ptr<Display> CreateDisplay(const char* name);
+
+/// The name of the display that a user can see and touch: "win32" on Windows, "sdl" elsewhere.
+KORVANE_API const char* DefaultDisplay();
 
 /// Why the last CreateDisplay or Open failed, one line of UTF-8. Never null; valid until the next failure.
 KORVANE_API const char* DisplayFailure();

@@ -1,7 +1,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "platform/posix/queue/PointerMessage.h"
+#include "platform/queue/PointerMessage.h"
 #include "platform/posix/remote/RemoteHandle.h"
 #include "platform/posix/remote/wire/Packet.h"
 

@@ -1,19 +1,8 @@
 #include "platform/posix/display/ActiveDisplay.h"
 
-#include <string>
-
 #include "platform/posix/queue/Session.h"
 
 namespace korvane {
-namespace {
-
-std::string& FailureText() {
-    static thread_local std::string text;
-    return text;
-}
-
-}  // namespace
-
 bool MayActivateDisplay(const Display* display, HWND owner) {
     const ThreadQueue& queue = CurrentQueue();
     Session& session = TheSession();
@@ -39,15 +28,6 @@ void DeactivateDisplay(Display* display) {
         return;
     session.display = nullptr;
     session.displayQueue = nullptr;
-}
-
-bool FailDisplay(const char* text) {
-    FailureText() = text ? text : "";
-    return false;
-}
-
-const char* DisplayFailure() {
-    return FailureText().c_str();
 }
 
 }  // namespace korvane

@@ -2,7 +2,7 @@
 
 #include "platform/Simulation.h"
 #include "platform/posix/LastError.h"
-#include "platform/posix/queue/PointerMessage.h"
+#include "platform/queue/PointerMessage.h"
 #include "platform/posix/queue/Session.h"
 #include "platform/posix/remote/RemoteWindows.h"
 

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "platform/posix/files/Descriptor.h"
-#include "platform/posix/queue/MessageRing.h"
-#include "platform/posix/queue/TimerList.h"
+#include "platform/queue/MessageRing.h"
+#include "platform/queue/TimerList.h"
 
 namespace korvane {
 

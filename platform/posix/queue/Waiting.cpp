@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "platform/Simulation.h"
+#include "platform/clock/SystemTime.h"
 #include "platform/posix/remote/receive/Station.h"
 
 namespace korvane {

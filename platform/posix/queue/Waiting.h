@@ -18,7 +18,4 @@ void PumpDisplay(Session& session, ThreadQueue& queue);
 /// The real time's Sleep: takes in the display's events meanwhile, retrieves nothing.
 void WaitWithoutRetrieving(DWORD ms);
 
-/// Makes every waiting thread look again: the clock has changed.
-void WakeAllQueues();
-
 }  // namespace korvane

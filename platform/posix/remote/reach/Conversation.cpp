@@ -3,7 +3,7 @@
 #include <sys/eventfd.h>
 
 #include "platform/posix/LastError.h"
-#include "platform/posix/queue/PointerMessage.h"
+#include "platform/queue/PointerMessage.h"
 #include "platform/posix/queue/Send.h"
 #include "platform/posix/remote/Fork.h"
 #include "platform/posix/remote/RemoteWindows.h"

@@ -4,7 +4,7 @@
 
 #include "platform/CaseFold.h"
 #include "platform/posix/LastError.h"
-#include "platform/posix/queue/PointerMessage.h"
+#include "platform/queue/PointerMessage.h"
 #include "platform/posix/remote/Fork.h"
 #include "platform/posix/remote/reach/Neighbours.h"
 

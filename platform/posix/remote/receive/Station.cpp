@@ -4,9 +4,9 @@
 #include <csignal>
 #include <pthread.h>
 
+#include "platform/clock/SystemTime.h"
 #include "platform/posix/files/DeviceKey.h"
 #include "platform/posix/queue/Session.h"
-#include "platform/posix/queue/Waiting.h"
 #include "platform/posix/remote/Fork.h"
 #include "platform/posix/remote/receive/Endpoint.h"
 #include "platform/posix/remote/receive/Inbox.h"

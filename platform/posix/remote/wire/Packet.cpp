@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "platform/posix/queue/PointerMessage.h"
+#include "platform/queue/PointerMessage.h"
 #include "platform/posix/remote/RemoteHandle.h"
 
 namespace korvane {

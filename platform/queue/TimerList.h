@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "platform/posix/clock/Clock.h"
+#include "platform/clock/Clock.h"
 
 namespace korvane {
 

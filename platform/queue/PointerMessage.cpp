@@ -1,4 +1,4 @@
-#include "platform/posix/queue/PointerMessage.h"
+#include "platform/queue/PointerMessage.h"
 
 namespace korvane {
 

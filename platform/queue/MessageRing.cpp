@@ -1,4 +1,4 @@
-#include "platform/posix/queue/MessageRing.h"
+#include "platform/queue/MessageRing.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "platform/posix/clock/Calendar.h"
+#include "platform/clock/Calendar.h"
 
 namespace korvane {
 namespace {

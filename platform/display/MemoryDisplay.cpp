@@ -1,12 +1,12 @@
-#include "platform/posix/display/MemoryDisplay.h"
+#include "platform/display/MemoryDisplay.h"
 
 #include <algorithm>
 
-#include "platform/posix/display/ActiveDisplay.h"
+#include "platform/display/SystemDisplay.h"
 
 namespace korvane {
 
-bool MemoryDisplay::Open(int width, int height, const wchar_t*, HWND) {
+bool MemoryDisplay::Open(int width, int height, const wchar_t*, HWND owner) {
     constexpr int kLargest = 16384;
     if (width < 1 || height < 1 || width > kLargest || height > kLargest)
         return FailDisplay("the size of the screen must be 1 to 16384 pixels each way");
@@ -14,6 +14,7 @@ bool MemoryDisplay::Open(int width, int height, const wchar_t*, HWND) {
     shown_.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), kBlack);
     width_ = width;
     height_ = height;
+    HideOwner(owner, width, height);
     return true;
 }
 

@@ -1,4 +1,4 @@
-#include "platform/posix/queue/TimerList.h"
+#include "platform/queue/TimerList.h"
 
 #include <algorithm>
 

@@ -1,21 +1,13 @@
-#include "platform/posix/clock/Clock.h"
+#include "platform/clock/Clock.h"
 
-#include <chrono>
 #include <mutex>
-#include <time.h>
 
 #include "platform/Simulation.h"
-#include "platform/posix/clock/Calendar.h"
-#include "platform/posix/queue/Waiting.h"
+#include "platform/clock/Calendar.h"
+#include "platform/clock/SystemTime.h"
 
 namespace korvane {
 namespace {
-
-std::int64_t SystemMilliseconds() {
-    using std::chrono::steady_clock;
-    return std::chrono::duration_cast<std::chrono::milliseconds>(steady_clock::now().time_since_epoch())
-        .count();
-}
 
 struct ClockState {
     std::mutex mutex;
@@ -36,23 +28,6 @@ Moment NowOf(const ClockState& state) {
     return state.manual ? state.manualNow : SystemMilliseconds() + state.systemOffset;
 }
 
-SYSTEMTIME SystemLocalTime() {
-    timespec now{};
-    clock_gettime(CLOCK_REALTIME, &now);
-    std::tm fields{};
-    localtime_r(&now.tv_sec, &fields);
-    SYSTEMTIME time{};
-    time.wYear = static_cast<WORD>(fields.tm_year + 1900);
-    time.wMonth = static_cast<WORD>(fields.tm_mon + 1);
-    time.wDayOfWeek = static_cast<WORD>(fields.tm_wday);
-    time.wDay = static_cast<WORD>(fields.tm_mday);
-    time.wHour = static_cast<WORD>(fields.tm_hour);
-    time.wMinute = static_cast<WORD>(fields.tm_min);
-    time.wSecond = static_cast<WORD>(fields.tm_sec);
-    time.wMilliseconds = static_cast<WORD>(now.tv_nsec / 1000000);
-    return time;
-}
-
 }  // namespace
 
 Moment CurrentMoment() {
@@ -62,11 +37,15 @@ Moment CurrentMoment() {
 }
 
 bool AdvanceManualClock(std::uint32_t ms) {
-    ClockState& state = State();
-    const std::lock_guard<std::mutex> lock(state.mutex);
-    if (state.manual)
+    {
+        ClockState& state = State();
+        const std::lock_guard<std::mutex> lock(state.mutex);
+        if (!state.manual)
+            return false;
         state.manualNow += ms;
-    return state.manual;
+    }
+    WakeAllQueues();
+    return true;
 }
 
 void UseManualClock(unsigned startTick, const SYSTEMTIME& localTime) {
@@ -101,33 +80,19 @@ bool IsManualClock() {
 }
 
 void AdvanceClock(unsigned ms) {
-    if (AdvanceManualClock(ms))
-        WakeAllQueues();
+    AdvanceManualClock(ms);
+}
+
+DWORD TickCount() {
+    ClockState& state = State();
+    const std::lock_guard<std::mutex> lock(state.mutex);
+    return static_cast<DWORD>(NowOf(state) + state.tickOffset);
+}
+
+SYSTEMTIME LocalTime() {
+    ClockState& state = State();
+    const std::lock_guard<std::mutex> lock(state.mutex);
+    return state.manual ? CalendarFromMilliseconds(state.manualNow + state.localOffset) : SystemLocalTime();
 }
 
 }  // namespace korvane
-
-extern "C" {
-
-DWORD GetTickCount() {
-    korvane::ClockState& state = korvane::State();
-    const std::lock_guard<std::mutex> lock(state.mutex);
-    return static_cast<DWORD>(korvane::NowOf(state) + state.tickOffset);
-}
-
-void GetLocalTime(SYSTEMTIME* time) {
-    if (!time)
-        return;
-    korvane::ClockState& state = korvane::State();
-    const std::lock_guard<std::mutex> lock(state.mutex);
-    *time = state.manual ? korvane::CalendarFromMilliseconds(state.manualNow + state.localOffset)
-                         : korvane::SystemLocalTime();
-}
-
-void Sleep(DWORD ms) {
-    if (korvane::AdvanceManualClock(ms))
-        korvane::WakeAllQueues();
-    else
-        korvane::WaitWithoutRetrieving(ms);
-}
-}

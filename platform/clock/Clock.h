@@ -12,7 +12,11 @@ using Moment = std::int64_t;
 
 Moment CurrentMoment();
 
-/// True, and the clock moved on, when the clock is manual.
+/// True, with the clock moved on and every waiting thread looking again, when the clock is manual.
 bool AdvanceManualClock(std::uint32_t ms);
+
+/// What GetTickCount and GetLocalTime tell.
+DWORD TickCount();
+SYSTEMTIME LocalTime();
 
 }  // namespace korvane

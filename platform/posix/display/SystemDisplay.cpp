@@ -1,8 +1,7 @@
+#include "platform/display/SystemDisplay.h"
+
 #include <string_view>
 
-#include "platform/Display.h"
-#include "platform/posix/display/ActiveDisplay.h"
-#include "platform/posix/display/MemoryDisplay.h"
 #include "platform/posix/display/ModuleDisplay.h"
 
 namespace korvane {
@@ -15,14 +14,18 @@ bool IsModuleName(std::string_view name) {
 
 }  // namespace
 
-std::unique_ptr<Display> CreateDisplay(const char* name) {
-    const std::string_view wanted = name ? name : "";
-    if (wanted == "memory")
-        return std::make_unique<MemoryDisplay>();
-    if (IsModuleName(wanted))
+std::unique_ptr<Display> CreateSystemDisplay(const char* name) {
+    if (name && IsModuleName(name))
         return LoadDisplayModule(name);
     FailDisplay("there is no display of that name");
     return nullptr;
+}
+
+// Nobody sees the windows of this system but in a display.
+void HideOwner(HWND, int, int) {}
+
+const char* DefaultDisplay() {
+    return "sdl";
 }
 
 }  // namespace korvane
