@@ -22,6 +22,12 @@ KORVANE_API std::string DeviceRoot();
 /// Empty for null and for an empty path.
 KORVANE_API std::string ToHostPath(const wchar_t* devicePath);
 
+/// Plugs a medium in, for this process: a host folder, in UTF-8, takes the place of the folder of that name in
+/// the device's root, so that L"USB" puts it at "\USB". The name is matched without regard to case; a listing
+/// of the root does not show it. An empty host folder pulls the medium out again. A host folder that does not
+/// exist, or vanishes, is a medium that was pulled out.
+KORVANE_API void PlugMedium(const std::wstring& name, const std::string& utf8Folder);
+
 /// Stops the clock at the given tick and local time. From here on GetTickCount, Sleep, timers, message times
 /// and GetLocalTime follow it; running timers keep what they had left to run. Fields of `localTime` beyond
 /// their range carry over as in arithmetic; its day of the week is ignored.
