@@ -31,6 +31,7 @@ enum Caption : int {
     kCaptionGuidance = 25,
     kCaptionFrontSeats = 26,
     kCaptionRearSeats = 27,
+    kCaptionMore = 28,
 
     // Screens
     kCaptionMenu = 30,

@@ -112,6 +112,14 @@ TEST_F(SourceListTest, TellsWhatPlaysInTheLanguageOfTheRecord) {
     EXPECT_TRUE(LooksLike("demo-sources"));
 }
 
+TEST_F(SourceListTest, TellsOnEachPageWhereItsLastCellLeads) {
+    OpenList();
+    TouchCell(kPageCell);
+    EXPECT_TRUE(LooksLike("demo-sources-second-page"));
+    Set(L"language", 11);
+    EXPECT_TRUE(LooksLike("demo-sources-second-page-greek"));
+}
+
 TEST_F(SourceListTest, TellsThatTheRadioPlays) {
     Set(L"source", 12);
     Set(L"source", 0);

@@ -11,7 +11,6 @@ namespace korvane::demo {
 namespace {
 
 constexpr int kNone = -1;
-constexpr int kNoCaption = 0;
 constexpr int kCellsOfPage = 5;
 
 /// A cell of the list: its source, or kNone where it switches pages.
@@ -25,12 +24,12 @@ constexpr Cell kCells[] = {
     {37, kCaptionDab, L"switch_dab"},
     {4, kCaptionDiscAudio, L"switch_disc_audio"},
     {kUsbMusicSource, kCaptionUsbAudio, L"switch_usb_audio"},
-    {kNone, kNoCaption, L"switch_page_down"},
+    {kNone, kCaptionMore, L"switch_page_down"},
     {8, kCaptionIpodAudio, L"switch_ipod_audio"},
     {11, kCaptionBtAudio, L"switch_bt_audio"},
     {13, kCaptionAux1, L"switch_aux1"},
     {18, kCaptionTv, L"switch_tv"},
-    {kNone, kNoCaption, L"switch_page_up"},
+    {kNone, kCaptionBack, L"switch_page_up"},
 };
 
 int CellOf(int source) {
