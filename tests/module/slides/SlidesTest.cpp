@@ -1,6 +1,7 @@
 #include <climits>
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <string>
 
 #include "module/Slides.h"
@@ -24,6 +25,10 @@ struct Way {
     /// Makes the screen ready.
     std::function<void(CLQWindow&)> prepare;
 };
+
+void PrintTo(const Way& way, std::ostream* out) {
+    *out << way.name;
+}
 
 /// Stands behind the panel, larger than it.
 Panel& Behind() {
