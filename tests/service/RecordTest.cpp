@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/posix/files/DeviceKey.h"
+#include "platform/DeviceKey.h"
 #include "sysinfo/SysInfoFields.h"
 
 #include "tests/service/ServiceDevice.h"

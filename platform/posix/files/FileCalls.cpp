@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include "platform/Simulation.h"
+#include "platform/Unicode.h"
 #include "platform/posix/LastError.h"
 #include "platform/posix/files/Attributes.h"
 #include "platform/posix/files/DevicePath.h"
@@ -81,11 +82,11 @@ BOOL MoveFileW(LPCWSTR from, LPCWSTR to) {
     std::string hostTo = RequireHostPath(to);
     if (hostFrom.empty() || hostTo.empty())
         return FALSE;
-    const std::vector<std::string> target = DeviceComponents(to);
+    const std::vector<std::wstring_view> target = DeviceComponents(to);
     if (target.empty() || DeviceComponents(from).empty())
         return Fail(ERROR_ACCESS_DENIED);
     if (hostFrom == hostTo)
-        hostTo = WithGivenName(hostTo, target.back());
+        hostTo = WithGivenName(hostTo, ToUtf8(target.back()));
     if (hostFrom == hostTo)
         return GetFileAttributesW(from) != INVALID_FILE_ATTRIBUTES;
     return RenameToFreeName(hostFrom, hostTo);

@@ -32,7 +32,7 @@ Searches& TheSearches() {
     return searches;
 }
 
-std::vector<std::string> FittingNames(const std::string& hostFolder, const std::wstring& pattern) {
+std::vector<std::string> FittingNames(const std::string& hostFolder, std::wstring_view pattern) {
     std::vector<std::string> names;
     const std::unique_ptr<DIR, int (*)(DIR*)> folder(opendir(hostFolder.c_str()), &closedir);
     if (!folder)
@@ -83,14 +83,14 @@ using namespace korvane;
 extern "C" {
 
 HANDLE FindFirstFileW(LPCWSTR pattern, WIN32_FIND_DATAW* data) {
-    std::vector<std::string> components = DeviceComponents(pattern);
-    const std::size_t length = pattern ? std::wcslen(pattern) : 0;
-    const bool namesNothing = length == 0 || pattern[length - 1] == L'\\' || pattern[length - 1] == L'/';
+    const std::wstring_view path = pattern ? pattern : L"";
+    std::vector<std::wstring_view> components = DeviceComponents(path);
+    const bool namesNothing = path.empty() || path.back() == L'\\' || path.back() == L'/';
     if (!data || namesNothing || components.empty()) {
         SetLastError(data ? ERROR_FILE_NOT_FOUND : ERROR_INVALID_PARAMETER);
         return INVALID_HANDLE_VALUE;
     }
-    const std::wstring name = FromUtf8(components.back());
+    const std::wstring_view name = components.back();
     components.pop_back();
     auto search = std::make_unique<Search>();
     search->hostFolder = HostPathOf(components);

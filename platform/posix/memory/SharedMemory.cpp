@@ -1,19 +1,17 @@
 #include "platform/SharedMemory.h"
 
 #include <cerrno>
-#include <cstdint>
-#include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
-#include <map>
 #include <memory>
-#include <mutex>
 #include <string>
 #include <string_view>
 #include <sys/mman.h>
 #include <vector>
 
 #include "platform/Unicode.h"
+#include "platform/memory/KnownRegions.h"
+#include "platform/memory/RegionHeader.h"
 #include "platform/posix/memory/SharedObject.h"
 
 namespace korvane {
@@ -22,56 +20,6 @@ namespace {
 constexpr char kKind[] = "memory";
 // Where the system shows its shared memory as files: there is no call that lists it.
 constexpr char kObjectFolder[] = "/dev/shm";
-constexpr std::size_t kMaxSize = std::size_t{16} << 20;
-constexpr unsigned kPatienceMs = 2000;
-constexpr char kMagic[8] = {'K', 'V', 'S', 'H', 'M', 'E', 'M', '1'};
-
-// Stands in front of the region's bytes. The magic is written last, when the region has been filled; until
-// then it is all zero.
-struct alignas(64) Header {
-    char magic[sizeof(kMagic)];
-    std::uint64_t size;
-};
-
-struct Mapping {
-    void* bytes = nullptr;
-    std::size_t size = 0;
-};
-
-struct Mappings {
-    std::mutex mutex;
-    std::map<std::string, Mapping> byName;
-};
-
-Mappings& TheMappings() {
-    // Never destroyed: the addresses hold as long as the process lives.
-    static Mappings& mappings = *new Mappings;
-    return mappings;
-}
-
-Mapping KnownMapping(const std::string& key) {
-    Mappings& mappings = TheMappings();
-    const std::lock_guard<std::mutex> lock(mappings.mutex);
-    const auto found = mappings.byName.find(key);
-    return found == mappings.byName.end() ? Mapping() : found->second;
-}
-
-void Keep(const std::string& key, const Mapping& mapping) {
-    Mappings& mappings = TheMappings();
-    const std::lock_guard<std::mutex> lock(mappings.mutex);
-    mappings.byName.emplace(key, mapping);
-}
-
-bool IsNew(const Header& header) {
-    constexpr char kNone[sizeof(kMagic)] = {};
-    return std::memcmp(header.magic, kNone, sizeof(kNone)) == 0;
-}
-
-bool IsReady(const Header& header, const struct stat& status) {
-    return std::memcmp(header.magic, kMagic, sizeof(kMagic)) == 0 && header.size >= 1 &&
-           header.size <= kMaxSize &&
-           status.st_size >= static_cast<off_t>(sizeof(Header) + static_cast<std::size_t>(header.size));
-}
 
 bool Reserve(int file, std::size_t bytes) {
     int failure;
@@ -81,59 +29,56 @@ bool Reserve(int file, std::size_t bytes) {
     return failure == 0;
 }
 
-Header* MapObject(int file, std::size_t size) {
-    void* const address = mmap(nullptr, sizeof(Header) + size, PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
-    return address == MAP_FAILED ? nullptr : static_cast<Header*>(address);
+RegionHeader* MapObject(int file, std::size_t size) {
+    void* const address =
+        mmap(nullptr, sizeof(RegionHeader) + size, PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
+    return address == MAP_FAILED ? nullptr : static_cast<RegionHeader*>(address);
 }
 
 // Works under the object's lock; nobody uses the region before it is ready.
-Mapping MakeRegion(int file, std::size_t size, const std::function<void(void*)>& fill) {
-    Header* const header = Reserve(file, sizeof(Header) + size) ? MapObject(file, size) : nullptr;
+Region MakeRegion(int file, std::size_t size, const std::function<void(void*)>& fill) {
+    RegionHeader* const header = Reserve(file, sizeof(RegionHeader) + size) ? MapObject(file, size) : nullptr;
     if (!header)
         return {};
-    void* const bytes = header + 1;
-    std::memset(bytes, 0, size);
-    if (fill)
-        fill(bytes);
-    header->size = size;
-    std::memcpy(header->magic, kMagic, sizeof(kMagic));
-    return {bytes, size};
+    header->Fill(size, fill);
+    return {header->Bytes(), size};
 }
 
-Mapping OpenRegion(const SharedObject& object, std::size_t size, const std::function<void(void*)>& fill) {
-    Header header = {};
+Region OpenRegion(const SharedObject& object, std::size_t size, const std::function<void(void*)>& fill) {
+    RegionHeader header = {};
     if (pread(object.Number(), &header, sizeof(header), 0) < 0)
         return {};
-    if (IsNew(header))
+    if (header.IsNew())
         return MakeRegion(object.Number(), size, fill);
     struct stat status {};
-    if (fstat(object.Number(), &status) != 0 || !IsReady(header, status) || header.size < size)
+    if (fstat(object.Number(), &status) != 0 || status.st_size < 0 ||
+        !header.IsReady(static_cast<std::uint64_t>(status.st_size)) || header.size < size)
         return {};
     const auto whole = static_cast<std::size_t>(header.size);
-    Header* const mapped = MapObject(object.Number(), whole);
-    return mapped ? Mapping{mapped + 1, whole} : Mapping();
+    RegionHeader* const mapped = MapObject(object.Number(), whole);
+    return mapped ? Region{mapped->Bytes(), whole} : Region();
 }
 
 }  // namespace
 
 void* MapSharedMemory(const wchar_t* name, std::size_t size, const std::function<void(void*)>& fill) {
-    if (!name || size < 1 || size > kMaxSize)
+    if (!name || size < 1 || size > kMaxRegionSize)
         return nullptr;
     const std::string key = SharedObjectPrefix() + ToUtf8(name);
-    Mapping mapping = KnownMapping(key);
-    if (!mapping.bytes) {
-        const std::unique_ptr<SharedObject> object = SharedObject::Lock(kKind, name, kPatienceMs);
+    Region region = KnownRegion(key);
+    if (!region.bytes) {
+        const std::unique_ptr<SharedObject> object = SharedObject::Lock(kKind, name, kRegionPatienceMs);
         if (!object)
             return nullptr;
         // Another thread may have held the lock.
-        mapping = KnownMapping(key);
-        if (!mapping.bytes) {
-            mapping = OpenRegion(*object, size, fill);
-            if (mapping.bytes)
-                Keep(key, mapping);
+        region = KnownRegion(key);
+        if (!region.bytes) {
+            region = OpenRegion(*object, size, fill);
+            if (region.bytes)
+                KeepRegion(key, region);
         }
     }
-    return mapping.size >= size ? mapping.bytes : nullptr;
+    return region.size >= size ? region.bytes : nullptr;
 }
 
 void RemoveSharedMemory() {

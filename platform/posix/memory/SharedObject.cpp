@@ -8,29 +8,15 @@
 #include <sys/mman.h>
 #include <thread>
 
-#include "platform/posix/files/DeviceKey.h"
+#include "platform/DeviceKey.h"
+#include "platform/memory/SharedName.h"
 
 namespace korvane {
 namespace {
 
-constexpr std::size_t kMaxName = 64;
 constexpr mode_t kOwnerOnly = S_IRUSR | S_IWUSR;
 
 using Clock = std::chrono::steady_clock;
-
-// Empty for what is no name.
-std::string NarrowName(const wchar_t* name) {
-    std::string narrow;
-    for (; name && *name; ++name) {
-        const wchar_t c = *name;
-        const bool plain = (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z') || (c >= L'0' && c <= L'9') ||
-                           c == L'-' || c == L'_';
-        if (!plain || narrow.size() == kMaxName)
-            return {};
-        narrow += static_cast<char>(c);
-    }
-    return narrow;
-}
 
 // The folder of these objects is open to all users, so one of another user may stand in this one's place.
 bool IsOurs(int file, struct stat& status) {
@@ -73,7 +59,7 @@ std::string SharedObjectPrefix() {
 }
 
 std::unique_ptr<SharedObject> SharedObject::Lock(const char* kind, const wchar_t* name, unsigned timeoutMs) {
-    const std::string narrow = NarrowName(name);
+    const std::string narrow = SharedName(name);
     if (narrow.empty())
         return nullptr;
     const std::string path = SharedObjectPrefix() + kind + '-' + narrow;

@@ -1,8 +1,8 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
+#include "platform/DeviceKey.h"
 #include "platform/Simulation.h"
-#include "platform/posix/files/DeviceKey.h"
 
 #include "tests/platform/DeviceFolder.h"
 

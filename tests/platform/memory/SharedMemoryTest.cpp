@@ -12,9 +12,9 @@
 #include <unistd.h>
 #include <vector>
 
+#include "platform/DeviceKey.h"
 #include "platform/SharedMemory.h"
 #include "platform/Simulation.h"
-#include "platform/posix/files/DeviceKey.h"
 
 #include "tests/platform/DeviceFolder.h"
 #include "tests/support/ForkedProcess.h"

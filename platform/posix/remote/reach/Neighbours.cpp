@@ -5,8 +5,8 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include "platform/DeviceKey.h"
 #include "platform/Simulation.h"
-#include "platform/posix/files/DeviceKey.h"
 #include "platform/posix/files/RuntimeFolder.h"
 #include "platform/posix/remote/RemoteHandle.h"
 #include "platform/posix/remote/receive/Station.h"

@@ -4,8 +4,8 @@
 #include <csignal>
 #include <pthread.h>
 
+#include "platform/DeviceKey.h"
 #include "platform/clock/SystemTime.h"
-#include "platform/posix/files/DeviceKey.h"
 #include "platform/posix/queue/Session.h"
 #include "platform/posix/remote/Fork.h"
 #include "platform/posix/remote/receive/Endpoint.h"
