@@ -41,6 +41,8 @@ enum Caption : int {
     kCaptionGauges = 34,
     kCaptionFiles = 35,
     kCaptionSettings = 36,
+    kCaptionChooseTile = 37,
+    kCaptionChoosePlace = 38,
 
     // Radio
     kCaptionSwipeToSeek = 40,
@@ -78,6 +80,10 @@ enum Caption : int {
 
     // Files
     kCaptionFolderEmpty = 80,
+    kCaptionFolderAbove = 81,
+    kCaptionFolderGone = 82,
+    kCaptionSwipeToOpen = 83,
+    kCaptionSwipeToPlay = 84,
 
     // Settings
     kCaptionLanguage = 90,
