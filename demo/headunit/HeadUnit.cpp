@@ -1,11 +1,16 @@
 #include "demo/headunit/HeadUnit.h"
 
-#include <initializer_list>
-
 #include "demo/headunit/Captions.h"
 #include "demo/headunit/LanguageFile.h"
+#include "demo/headunit/ScreenSlide.h"
 
 namespace korvane::demo {
+
+namespace {
+
+constexpr int kStripHeight = 60;
+
+}  // namespace
 
 HeadUnit::HeadUnit() {
     link_.Load();
@@ -18,8 +23,14 @@ HeadUnit::~HeadUnit() {
 }
 
 void HeadUnit::Create(int x, int y) {
+    x_ = x;
+    y_ = y;
     ShowLanguage();
-    CreateScreens(x, y);
+    for (CLQWindow* const screen : Screens()) {
+        screen->Create(x, y, kWidth, kHeight);
+        screen->OnInit();
+        screen->SetShow(false);
+    }
     // The last one lies on top of the others.
     strip_.Create(x, y, kWidth, kHeight);
     strip_.OnInit();
@@ -27,7 +38,7 @@ void HeadUnit::Create(int x, int y) {
     radio_.GetSourcesButton().AddCallBack(kEventReleased, &strip_, &TitleStrip::OpenShortcuts);
     other_.GetSourcesButton().AddCallBack(kEventReleased, &strip_, &TitleStrip::OpenShortcuts);
     for (MenuButton* const button : {&radio_.GetMenuButton(), &other_.GetMenuButton()})
-        button->WhenTouched([this] { ShowScreen(Screen::Menu); });
+        button->WhenTouched([this] { SlideTo(Screen::Menu); });
     menu_.WhenChosen([this](MenuItem item) { OnMenu(item); });
     sources_.WhenChosen([this](int id) { ChooseSource(id); });
     strip_.SetTitleBackBtnID(kCaptionBack);
@@ -38,13 +49,8 @@ void HeadUnit::Create(int x, int y) {
     ShowSource();
 }
 
-void HeadUnit::CreateScreens(int x, int y) {
-    for (CLQWindow* const screen :
-         std::initializer_list<CLQWindow*>{&radio_, &other_, &menu_, &sources_, &gauges_}) {
-        screen->Create(x, y, kWidth, kHeight);
-        screen->OnInit();
-        screen->SetShow(false);
-    }
+std::vector<CLQWindow*> HeadUnit::Screens() {
+    return {&radio_, &other_, &menu_, &sources_, &gauges_};
 }
 
 void HeadUnit::OnSystemChanged(int item) {
@@ -73,11 +79,11 @@ void HeadUnit::OnBack() {
             ChooseSource(kRadioSource);
             break;
         case Screen::Menu:
-            ShowScreen(Screen::Player);
+            SlideTo(Screen::Player);
             break;
         case Screen::Sources:
         case Screen::Gauges:
-            ShowScreen(Screen::Menu);
+            SlideTo(Screen::Menu);
             break;
     }
 }
@@ -91,10 +97,10 @@ void HeadUnit::OnMenu(MenuItem item) {
             ChooseSource(lastMedium_);
             break;
         case MenuItem::Sources:
-            ShowScreen(Screen::Sources);
+            SlideTo(Screen::Sources);
             break;
         case MenuItem::Gauges:
-            ShowScreen(Screen::Gauges);
+            SlideTo(Screen::Gauges);
             break;
         case MenuItem::Files:
         case MenuItem::Settings:
@@ -105,7 +111,7 @@ void HeadUnit::OnMenu(MenuItem item) {
 /// Asks for a source. Its screen comes when the record names it; that of the one that plays comes at once.
 void HeadUnit::ChooseSource(int id) {
     if (current_ && current_->id == id) {
-        ShowScreen(Screen::Player);
+        SlideTo(Screen::Player);
         return;
     }
     const Source* const source = FindSource(id);
@@ -113,6 +119,7 @@ void HeadUnit::ChooseSource(int id) {
         strip_.ShowNotice(kCaptionNotConnected);
         return;
     }
+    awaited_ = id;
     const HWND mainWindow = FindWindowW(nullptr, kMainWindowName);
     if (mainWindow)
         PostMessageW(mainWindow, kMainSourceChosen, 1, id);
@@ -139,6 +146,8 @@ void HeadUnit::ShowSource() {
     const Source* const source = FindSource(record_ ? record_->source : kRadioSource);
     if (!source || source == current_)
         return;
+    const bool slides = SlidesTo(*source);
+    awaited_ = kNoSource;
     current_ = source;
     if (source->hasPlayTime) {
         lastMedium_ = source->id;
@@ -146,26 +155,83 @@ void HeadUnit::ShowSource() {
     } else {
         strip_.StopPlayTime();
     }
-    if (source->screen == SourceScreenKind::Other)
-        other_.ShowSource(*source);
     sources_.ShowSource(*source);
     menu_.MarkPlaying(MenuItem::Radio, PlaysRadio());
     menu_.MarkPlaying(MenuItem::Media, source->hasPlayTime);
-    ShowScreen(Screen::Player);
+    if (slides)
+        SlideTo(Screen::Player);
+    else
+        ShowScreen(Screen::Player);
 }
 
+/// A source slides in over the one that played. Over another screen, which the user is busy with, it does so
+/// only when the user has asked for it.
+bool HeadUnit::SlidesTo(const Source& source) const {
+    if (!current_)
+        return false;
+    if (screen_ != Screen::Player)
+        return source.id == awaited_;
+    const bool isSameScreen = PlaysRadio() && source.screen == SourceScreenKind::Radio;
+    return !isSameScreen;
+}
+
+/// Shows a screen at once.
 void HeadUnit::ShowScreen(Screen screen) {
+    Enter(screen);
+    SwitchWindows();
+}
+
+/// Slides to a screen: the next one comes in, on the way back the one that is left goes out.
+void HeadUnit::SlideTo(Screen screen) {
+    // The panel lies over the screens and would be in the way.
+    if (strip_.ShowsShortcuts()) {
+        ShowScreen(screen);
+        return;
+    }
+    const auto way = screen < screen_ ? ScreenSlide::Way::Out : ScreenSlide::Way::In;
+    Enter(screen);
+    _LQRect place;
+    place.left = x_;
+    place.top = y_ + kStripHeight;
+    place.right = x_ + kWidth;
+    place.bottom = y_ + kHeight;
+    ScreenSlide slide(place);
+    SwitchWindows();
+    slide.Play(ShownWindow(), way);
+}
+
+/// What changes at once also where the screen slides.
+void HeadUnit::Enter(Screen screen) {
     screen_ = screen;
-    const bool isPlayer = screen == Screen::Player;
-    if (!isPlayer || !PlaysRadio())
+    const bool showsRadio = screen == Screen::Player && PlaysRadio();
+    if (!showsRadio)
         radio_.StopSeeking();
-    radio_.SetShow(isPlayer && PlaysRadio());
-    other_.SetShow(isPlayer && !PlaysRadio());
-    menu_.SetShow(screen == Screen::Menu);
-    sources_.SetShow(screen == Screen::Sources);
-    gauges_.SetShow(screen == Screen::Gauges);
     strip_.ShowTitle(Title());
-    strip_.SetTitleBackBtnShow(!isPlayer || !PlaysRadio());
+    strip_.SetTitleBackBtnShow(!showsRadio);
+}
+
+void HeadUnit::SwitchWindows() {
+    if (current_ && current_->screen == SourceScreenKind::Other)
+        other_.ShowSource(*current_);
+    const CLQWindow* const shown = &ShownWindow();
+    for (CLQWindow* const screen : Screens())
+        screen->SetShow(screen == shown);
+}
+
+CLQWindow& HeadUnit::ShownWindow() {
+    switch (screen_) {
+        case Screen::Menu:
+            return menu_;
+        case Screen::Sources:
+            return sources_;
+        case Screen::Gauges:
+            return gauges_;
+        case Screen::Player:
+            break;
+    }
+    if (PlaysRadio())
+        return radio_;
+    return other_;
 }
 
 bool HeadUnit::PlaysRadio() const {

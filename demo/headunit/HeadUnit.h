@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "KorvaneEx.h"
 
 #include "demo/headunit/Source.h"
@@ -29,9 +31,10 @@ class HeadUnit {
     void Create(int x, int y);
 
   private:
+    /// In their order from what plays inwards.
     enum class Screen { Player, Menu, Sources, Gauges };
 
-    void CreateScreens(int x, int y);
+    std::vector<CLQWindow*> Screens();
     void OnSystemChanged(int item);
     void OnBack();
     void OnMenu(MenuItem item);
@@ -41,14 +44,24 @@ class HeadUnit {
     void ShowLanguage();
     void ShowZone();
     void ShowSource();
+    bool SlidesTo(const Source& source) const;
     void ShowScreen(Screen screen);
+    void SlideTo(Screen screen);
+    void Enter(Screen screen);
+    void SwitchWindows();
+    CLQWindow& ShownWindow();
     bool PlaysRadio() const;
     int Title() const;
 
+    static constexpr int kNoSource = -1;
+
+    int x_ = 0;
+    int y_ = 0;
     CLQShareMemLink link_;
     const _LQSysInfo* record_ = nullptr;
     const Source* current_ = nullptr;
     int lastMedium_ = kUsbMusicSource;  // the one that played last
+    int awaited_ = kNoSource;           // the one that the user has asked for
     bool hasPhone_ = false;
     Screen screen_ = Screen::Player;
 

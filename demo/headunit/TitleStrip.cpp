@@ -73,6 +73,11 @@ void TitleStrip::CloseShortcuts() {
     ShowShortcuts(false);
 }
 
+bool TitleStrip::ShowsShortcuts() {
+    CLQGroupCtrl* const panel = GetShortCutControl();
+    return panel && panel->IsShow();
+}
+
 void TitleStrip::ShowShortcuts(bool show) {
     for (CLQGroupCtrl* const group : {GetShortCurShadow(), GetShortCutControl()}) {
         if (group)

@@ -27,6 +27,7 @@ class TitleStrip : public CLQTitleDialog {
 
     void OpenShortcuts();
     void CloseShortcuts();
+    bool ShowsShortcuts();
 
     /// Shows, from 0:00 on, how long a medium has been playing.
     void StartPlayTime();

@@ -5,6 +5,7 @@
 #include "KorvaneEx.h"
 
 #include "demo/headunit/HeadUnit.h"
+#include "demo/headunit/ScreenSlide.h"
 #include "demo/mainapp/MainApplication.h"
 #include "tests/demo/DemoScene.h"
 #include "tests/demo/HeadUnitBench.h"
@@ -94,8 +95,10 @@ TEST_F(HeadUnitTest, NamesAShortcutThatTheUserChose) {
     EXPECT_EQ(ShortcutCaption(4), L"TV");
 }
 
-TEST_F(HeadUnitTest, SwitchesToTheSourceOfAShortcut) {
+TEST_F(HeadUnitTest, SlidesToTheSourceOfAShortcut) {
+    const unsigned start = GetTickCount();
     ChooseShortcut(2);
+    EXPECT_EQ(GetTickCount() - start, 80u * ScreenSlide::kFrames);
     EXPECT_EQ(Get(L"source"), 4);
     EXPECT_FALSE(ShowsPanel());
     EXPECT_FALSE(ShowsRadio());

@@ -90,11 +90,11 @@ TEST_F(SourceListTest, OpensOnThePageOfWhatPlays) {
 }
 
 TEST_F(SourceListTest, GoesToTheSourceThatPlaysAndKeepsItSelected) {
-    Set(L"source", 4);
+    Set(L"source", 13);
     OpenList();
     const std::vector<std::uint32_t> list = scene_.Pixels();
     TouchCell(2);
-    EXPECT_EQ(Get(L"source"), 4);
+    EXPECT_EQ(Get(L"source"), 13);
     EXPECT_FALSE(ShowsList());
     EXPECT_TRUE(scene_.Shows(L"Now playing"));
     OpenList();
