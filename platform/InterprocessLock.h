@@ -7,7 +7,7 @@
 namespace korvane {
 
 /// A lock among the processes of one user and device root, and among the threads of each, held as long as the
-/// object lives. When a process dies the system frees what it held.
+/// object lives, which ends on the thread that made it. When a process dies the system frees what it held.
 class KORVANE_API InterprocessLock {
   public:
     /// Waits up to `timeoutMs` of real time. Names are those of MapSharedMemory; locks and regions of the

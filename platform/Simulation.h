@@ -11,21 +11,22 @@
 namespace korvane {
 
 /// The host folder in which the paths of the device lie, as UTF-8. Unless set, the environment variable
-/// KORVANE_DEVICE_ROOT, else the folder that the build prepares. An empty folder goes back to that.
+/// KORVANE_DEVICE_ROOT, else the folder that the build prepares: on Windows `device` beside this library, and
+/// without that one the system resolves the paths itself, and the root is empty. An empty folder goes back to
+/// that.
 KORVANE_API void SetDeviceRoot(const std::string& utf8Folder);
 KORVANE_API std::string DeviceRoot();
 
 /// The host path, in UTF-8, of a path of the device: separators of either kind, with or without a leading
-/// one;
-/// ".." never climbs above the root. Each component names the host entry of exactly that name, else the
-/// first, in byte order, that differs only in case. Components that do not exist are kept as they are given.
-/// Empty for null and for an empty path.
+/// one; ".." never climbs above the root. Where the host tells cases apart, each component names the host
+/// entry of exactly that name, else the first, in byte order, that differs only in case. Components that do
+/// not exist are kept as they are given. Empty for null and for an empty path.
 KORVANE_API std::string ToHostPath(const wchar_t* devicePath);
 
-/// Plugs a medium in, for this process: a host folder, in UTF-8, takes the place of the folder of that name in
-/// the device's root, so that L"USB" puts it at "\USB". The name is matched without regard to case; a listing
-/// of the root does not show it. An empty host folder pulls the medium out again. A host folder that does not
-/// exist, or vanishes, is a medium that was pulled out.
+/// Plugs a medium in, for this process: a host folder, in UTF-8, takes the place of the folder of that name
+/// in the device's root, so that L"USB" puts it at "\USB". The name is matched without regard to case; a
+/// listing of the root does not show it. An empty host folder pulls the medium out again. A host folder that
+/// does not exist, or vanishes, is a medium that was pulled out.
 KORVANE_API void PlugMedium(const std::wstring& name, const std::string& utf8Folder);
 
 /// Stops the clock at the given tick and local time. From here on GetTickCount, Sleep, timers, message times

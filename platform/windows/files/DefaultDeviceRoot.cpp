@@ -1,0 +1,40 @@
+#include "platform/files/DefaultDeviceRoot.h"
+
+#include <windows.h>
+
+#include "platform/Unicode.h"
+
+namespace korvane {
+namespace {
+
+std::wstring EnvironmentVariable(const wchar_t* name) {
+    std::wstring value(GetEnvironmentVariableW(name, nullptr, 0), L'\0');
+    value.resize(GetEnvironmentVariableW(name, value.data(), static_cast<DWORD>(value.size())));
+    return value;
+}
+
+// The folder of this library, with a separator at its end.
+std::wstring OwnFolder() {
+    HMODULE module = nullptr;
+    constexpr DWORD kByAddress =
+        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
+    GetModuleHandleExW(kByAddress, reinterpret_cast<LPCWSTR>(&DefaultDeviceRoot), &module);
+    constexpr DWORD kLongestPath = 32768;
+    std::wstring path(kLongestPath, L'\0');
+    path.resize(GetModuleFileNameW(module, path.data(), kLongestPath));
+    return path.substr(0, path.rfind(L'\\') + 1);
+}
+
+}  // namespace
+
+std::string DefaultDeviceRoot() {
+    const std::wstring chosen = EnvironmentVariable(L"KORVANE_DEVICE_ROOT");
+    if (!chosen.empty())
+        return ToUtf8(chosen);
+    const std::wstring built = OwnFolder() + L"device";
+    const DWORD attributes = GetFileAttributesW(built.c_str());
+    const bool exists = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    return exists ? ToUtf8(built) : std::string();
+}
+
+}  // namespace korvane

@@ -1,0 +1,54 @@
+#include "platform/windows/files/HostPath.h"
+
+#include "platform/Simulation.h"
+#include "platform/Unicode.h"
+#include "platform/files/DeviceComponents.h"
+#include "platform/windows/files/FullPath.h"
+
+namespace korvane {
+namespace {
+
+// Below the root, or as it is given where there is none.
+std::wstring Resolve(std::wstring_view devicePath) {
+    std::wstring path = FromUtf8(DeviceRoot());
+    if (path.empty())
+        return std::wstring(devicePath);
+    for (const std::wstring_view component : DeviceComponents(devicePath)) {
+        if (path.back() != L'\\' && path.back() != L'/')
+            path += L'\\';
+        path += component;
+    }
+    return path;
+}
+
+// The system takes longer paths only in this form, which it does not work out any more.
+std::wstring WithoutLimit(const std::wstring& path) {
+    // A folder's path leaves room for a short name of a file in it.
+    constexpr std::size_t kLongest = MAX_PATH - 12 - 1;
+    if (path.size() <= kLongest)
+        return path;
+    const std::wstring full = FullPath(path);
+    if (full.compare(0, 4, L"\\\\?\\") == 0)
+        return full;
+    return full.compare(0, 2, L"\\\\") == 0 ? L"\\\\?\\UNC" + full.substr(1) : L"\\\\?\\" + full;
+}
+
+}  // namespace
+
+std::wstring RequireHostPath(const wchar_t* devicePath) {
+    if (!devicePath || !*devicePath) {
+        SetLastError(ERROR_PATH_NOT_FOUND);
+        return {};
+    }
+    return WithoutLimit(Resolve(devicePath));
+}
+
+bool IsDeviceRoot(const wchar_t* devicePath) {
+    return !DeviceRoot().empty() && DeviceComponents(devicePath).empty();
+}
+
+std::string ToHostPath(const wchar_t* devicePath) {
+    return devicePath && *devicePath ? ToUtf8(Resolve(devicePath)) : std::string();
+}
+
+}  // namespace korvane

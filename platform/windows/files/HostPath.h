@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+namespace korvane {
+
+/// Where a path of the device lies, as the system's own calls take it, however long it is. Empty, with the
+/// last error set, for null and empty paths.
+std::wstring RequireHostPath(const wchar_t* devicePath);
+
+/// Whether the path is that of the device root itself. Never where the system resolves the device's paths.
+bool IsDeviceRoot(const wchar_t* devicePath);
+
+}  // namespace korvane
