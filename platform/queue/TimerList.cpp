@@ -5,7 +5,7 @@
 namespace korvane {
 
 UINT_PTR TimerList::Set(HWND window, UINT_PTR id, UINT period, TIMERPROC procedure, Moment now) {
-    period = std::clamp(period, USER_TIMER_MINIMUM, USER_TIMER_MAXIMUM);
+    period = std::clamp<UINT>(period, USER_TIMER_MINIMUM, USER_TIMER_MAXIMUM);
     for (Timer& timer : timers_) {
         if (timer.window == window && timer.id == id) {
             timer = {window, id, period, procedure, now + period};
@@ -35,9 +35,7 @@ bool TimerList::Kill(HWND window, UINT_PTR id) {
 }
 
 void TimerList::KillOf(HWND window) {
-    timers_.erase(std::remove_if(timers_.begin(), timers_.end(),
-                                 [window](const Timer& timer) { return timer.window == window; }),
-                  timers_.end());
+    KillIf([window](const Timer& timer) { return timer.window == window; });
 }
 
 const Timer* TimerList::Find(HWND window, UINT_PTR id) const {

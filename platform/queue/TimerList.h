@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 #include "platform/clock/Clock.h"
@@ -25,7 +27,22 @@ class TimerList {
     bool Kill(HWND window, UINT_PTR id);
     void KillOf(HWND window);
 
+    /// Ends those that `accepts`.
+    template <typename Accepts>
+    void KillIf(const Accepts& accepts) {
+        timers_.erase(std::remove_if(timers_.begin(), timers_.end(), accepts), timers_.end());
+    }
+
+    template <typename Visit>
+    void ForEach(const Visit& visit) {
+        for (Timer& timer : timers_)
+            visit(timer);
+    }
+
     const Timer* Find(HWND window, UINT_PTR id) const;
+    Timer* Find(HWND window, UINT_PTR id) {
+        return const_cast<Timer*>(std::as_const(*this).Find(window, id));
+    }
 
     /// The timer that is due first, null when there is none.
     const Timer* Earliest() const;

@@ -3,8 +3,8 @@
 // The calls that take a path of the device or follow the clock come from this library: they honour a device
 // root and the manual clock, and are the system's own otherwise. All others are the system's own at once.
 //
-// The headers that declare the system's calls come before, since the names are macros from here on. A source
-// that calls the system's own includes <windows.h> and not platform/coredll.h.
+// The headers that declare the system's calls come before, since the names are macros from here on. Where
+// KORVANE_SYSTEM_CALLS is defined, as it is for the sources in platform/, they stay the system's own.
 
 #include <stdio.h>
 #include <stdlib.h>

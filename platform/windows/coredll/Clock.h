@@ -13,6 +13,8 @@ KORVANE_API void Sleep(DWORD ms);
 
 }  // namespace korvane::desktop
 
+#ifndef KORVANE_SYSTEM_CALLS
 #define GetTickCount korvane::desktop::GetTickCount
 #define GetLocalTime korvane::desktop::GetLocalTime
 #define Sleep korvane::desktop::Sleep
+#endif

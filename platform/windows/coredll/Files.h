@@ -25,6 +25,7 @@ KORVANE_API std::FILE* _wfopen(const wchar_t* path, const wchar_t* mode);
 
 }  // namespace korvane::desktop
 
+#ifndef KORVANE_SYSTEM_CALLS
 #define FindFirstFileW korvane::desktop::FindFirstFileW
 #define FindNextFileW korvane::desktop::FindNextFileW
 #define CreateDirectoryW korvane::desktop::CreateDirectoryW
@@ -33,3 +34,4 @@ KORVANE_API std::FILE* _wfopen(const wchar_t* path, const wchar_t* mode);
 #define MoveFileW korvane::desktop::MoveFileW
 #define GetFileAttributesW korvane::desktop::GetFileAttributesW
 #define _wfopen korvane::desktop::_wfopen
+#endif

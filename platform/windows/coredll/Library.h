@@ -13,4 +13,6 @@ KORVANE_API HMODULE LoadLibraryW(LPCWSTR path);
 /// other name finds nothing.
 KORVANE_API FARPROC GetProcAddressW(HMODULE module, LPCWSTR name);
 
+#ifndef KORVANE_SYSTEM_CALLS
 #define LoadLibraryW korvane::desktop::LoadLibraryW
+#endif

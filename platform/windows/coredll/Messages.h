@@ -23,6 +23,7 @@ KORVANE_API BOOL MessageBeep(UINT kind);
 
 }  // namespace korvane::desktop
 
+#ifndef KORVANE_SYSTEM_CALLS
 #define GetMessageW korvane::desktop::GetMessageW
 #define PeekMessageW korvane::desktop::PeekMessageW
 #define DispatchMessageW korvane::desktop::DispatchMessageW
@@ -31,3 +32,4 @@ KORVANE_API BOOL MessageBeep(UINT kind);
 #define SetTimer korvane::desktop::SetTimer
 #define KillTimer korvane::desktop::KillTimer
 #define MessageBeep korvane::desktop::MessageBeep
+#endif

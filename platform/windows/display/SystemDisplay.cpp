@@ -1,0 +1,55 @@
+#include "platform/display/SystemDisplay.h"
+
+#include <string>
+#include <string_view>
+
+#include "platform/windows/display/Win32Display.h"
+
+namespace korvane {
+namespace {
+
+// A pixel of the screen is one of the panel's, whatever magnification the user has chosen. Older systems know
+// only a part of this, or nothing. A program that has declared itself in another way keeps that.
+void RefuseMagnification() {
+    using SetContext = BOOL(WINAPI*)(HANDLE);
+    using SetAware = BOOL(WINAPI*)();
+    const HANDLE kPerMonitor = reinterpret_cast<HANDLE>(static_cast<INT_PTR>(-4));
+    const HMODULE user = GetModuleHandleW(L"user32.dll");
+    const auto find = [user](const char* name) {
+        return reinterpret_cast<void*>(GetProcAddress(user, name));
+    };
+    if (const auto setContext = reinterpret_cast<SetContext>(find("SetProcessDpiAwarenessContext")))
+        setContext(kPerMonitor);
+    else if (const auto setAware = reinterpret_cast<SetAware>(find("SetProcessDPIAware")))
+        setAware();
+}
+
+}  // namespace
+
+std::unique_ptr<Display> CreateSystemDisplay(const char* name) {
+    if (std::string_view(name ? name : "") != DefaultDisplay()) {
+        const std::string shown = name ? name : "";
+        FailDisplay(
+            ("there is no display \"" + shown + "\" on Windows, only \"win32\" and \"memory\"").c_str());
+        return nullptr;
+    }
+    RefuseMagnification();
+    return std::make_unique<Win32Display>();
+}
+
+// A hidden window would not be painted. One that lets everything through looks and feels like none.
+void HideOwner(HWND owner, int width, int height) {
+    if (!owner)
+        return;
+    ShowWindow(owner, SW_HIDE);
+    SetWindowLongPtrW(owner, GWL_EXSTYLE,
+                      WS_EX_LAYERED | WS_EX_TRANSPARENT | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE);
+    SetLayeredWindowAttributes(owner, 0, 0, LWA_ALPHA);
+    SetWindowPos(owner, HWND_BOTTOM, 0, 0, width, height, SWP_NOACTIVATE | SWP_NOMOVE | SWP_SHOWWINDOW);
+}
+
+const char* DefaultDisplay() {
+    return "win32";
+}
+
+}  // namespace korvane
