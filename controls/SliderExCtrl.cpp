@@ -126,6 +126,7 @@ void CLQSliderExCtrl::DrawReapetIcon(CLQSurfHandle& target, CLQSurfHandle& icon,
 void CLQSliderExCtrl::Draw(CLQSurfHandle& target) {
     if (m_pOwnerWnd && !IsNeedRedraw())
         return;
+    LoadImages();
     DrawBackground(target);
     if (!m_bVertical) {
         if (IsReapetABShow())

@@ -166,6 +166,11 @@ bool CLQSliderCtrl::DoMessage(_LQMessage* msg) {
     }
 }
 
+void CLQSliderCtrl::LoadImages() {
+    for (korvane::NamedImage* image : {&m_imageBkg, &m_imageFill, &m_imageThumb, &m_imageThumbPressed})
+        image->Surface();
+}
+
 void CLQSliderCtrl::DrawBackground(CLQSurfHandle& target) {
     int x = 0;
     int y = 0;
@@ -201,6 +206,7 @@ void CLQSliderCtrl::DrawThumb(CLQSurfHandle& target) {
 void CLQSliderCtrl::Draw(CLQSurfHandle& target) {
     if (m_pOwnerWnd && !IsNeedRedraw())
         return;
+    LoadImages();
     DrawBackground(target);
     DrawFill(target);
     DrawThumb(target);

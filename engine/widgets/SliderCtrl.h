@@ -53,7 +53,9 @@ class KORVANE_API CLQSliderCtrl : public CLQBaseCtrl {
     /// The same for the current value.
     int GetThumbPos();
 
-    /// The three parts of `Draw`, bottom up.
+    /// What `Draw` consists of, in this order. All images are read before the first is painted, also the one
+    /// of a thumb that is not held, so that no touch waits for a file.
+    void LoadImages();
     void DrawBackground(CLQSurfHandle& target);
     void DrawFill(CLQSurfHandle& target);
     void DrawThumb(CLQSurfHandle& target);

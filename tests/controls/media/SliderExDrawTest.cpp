@@ -226,6 +226,13 @@ TEST_F(SliderExDraw, LoadsAnImageOfTheSliderOnceItIsThere) {
     EXPECT_EQ(LooksOf(slider), Picture().Track().Played(0).Thumb(0).Pixels());
 }
 
+TEST_F(SliderExDraw, ReadsThePressedThumbWithTheOthersAndNotAtTheTouch) {
+    LooksOf(slider);
+    std::filesystem::remove(scene.ImageFolder() / "ThumbPressed.lqi");
+    ASSERT_TRUE(Press(slider, kBarTrackLeft + 110, kBarY + 50));
+    EXPECT_EQ(LooksOf(slider), Picture().Track().Played(100).Put(PressedThumbImage(), 134, 66).Pixels());
+}
+
 TEST_F(SliderExDraw, AnyNumbersAreSafe) {
     for (const int number : {INT_MIN, -40000, -1, 0, 1, 40000, INT_MAX}) {
         slider.SetInset(number, number);
