@@ -1,22 +1,18 @@
 #include "module/Slides.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
 
 #include "engine/core/Borrowed.h"
 #include "engine/draw/SurfManager.h"
 #include "engine/window/Screen.h"
 #include "engine/window/Window.h"
+#include "module/SlideFrame.h"
 #include "platform/coredll.h"
 
+using korvane::slide::Rounding;
+
 namespace {
-
-constexpr DWORD kFrameTime = 80;
-constexpr float kQuarterTurn = 1.5707964f;
-
-/// Slides round the visible width in different ways; the pixel between them is meant.
-enum class Rounding { Nearest, TowardZero };
 
 struct Place {
     int x = 0;
@@ -40,16 +36,6 @@ CLQSurfHandle PictureOf(CLQBaseCtrl& ctrl, int width, int height) {
     CLQSurfHandle picture = NewSurface(width, height);
     ctrl.DrawBaseCtrl(picture, 0, 0);
     return picture;
-}
-
-/// How many columns of the way the slide has gone after a frame, counted from 1.
-int VisibleWidth(int width, int frame, int frames, Rounding rounding) {
-    if (frame == frames)
-        return width;
-    // The angle is a float, the sine a double: the last bit decides where a width is nearly whole.
-    const float angle = static_cast<float>(frame) * kQuarterTurn / static_cast<float>(frames);
-    const double way = width * std::sin(static_cast<double>(angle));
-    return static_cast<int>(rounding == Rounding::Nearest ? way + 0.5 : way);
 }
 
 /// What a slide needs, taken before its first frame.
@@ -77,7 +63,7 @@ Slide BeginSlide(CLQWindow& window, CLQBaseCtrl& ctrl, bool in, int frames, Roun
 
 void DrawFrame(CLQSurfHandle& screen, Slide& slide, int frame) {
     const Place& at = slide.place;
-    const int way = VisibleWidth(at.width, frame, slide.frames, slide.rounding);
+    const int way = korvane::slide::WayAfter(frame, slide.frames, at.width, slide.rounding);
     if (slide.in)
         screen.BitBlt(slide.picture, at.x, at.y, way, at.height, at.width - way, 0);
     else
@@ -94,9 +80,8 @@ void PlaySlide(Slide& slide, DrawBackground drawBackground) {
         const DWORD start = GetTickCount();
         drawBackground(surface);
         DrawFrame(surface, slide, static_cast<int>(frame));
-        const DWORD elapsed = GetTickCount() - start;
-        if (static_cast<std::int32_t>(elapsed) < static_cast<std::int32_t>(kFrameTime))
-            Sleep(kFrameTime - elapsed);
+        if (const DWORD wait = korvane::slide::WaitAfter(GetTickCount() - start))
+            Sleep(wait);
         screen->FlipRect(at.x, at.y, at.x + at.width, at.y + at.height);
     }
     if (slide.window)
