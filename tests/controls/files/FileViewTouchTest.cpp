@@ -386,6 +386,31 @@ TEST_F(FileViewInWindow, MayEndInItsOwnCallBack) {
     }
 }
 
+TEST_F(FileViewInWindow, MayEndWithItsWindowInItsOwnCallBack) {
+    static CLQWindow* doomedWindow = nullptr;
+    struct Touch {
+        int x, y, toX, toY;
+    };
+    for (const Touch touch : {Touch{250, 90, 250, 90}, Touch{250, 440, 250, 440}, Touch{150, 200, 250, 200},
+                              Touch{250, 200, 250, 280}, Touch{250, 200, 250, 120}}) {
+        doomedWindow = new CLQWindow;
+        doomedWindow->Create(0, 0, 500, 480);
+        auto* doomed = new TestFileView;
+        doomed->Create(kViewX, kViewY, kViewWidth, kViewHeight);
+        doomed->ChangImage(L"u", L"d", L"c", false);
+        doomed->LQ_FV_Register(reinterpret_cast<void*>(+[](int) {
+            delete doomedWindow;
+            doomedWindow = nullptr;
+        }));
+        doomedWindow->AddChild(doomed);  // the window deletes it
+        const LifeWatch life = doomed->WatchLife();
+        scene.Press(touch.x, touch.y);
+        scene.Release(touch.toX, touch.toY);
+        EXPECT_EQ(doomedWindow, nullptr) << touch.x << ", " << touch.toY;
+        EXPECT_FALSE(life.IsAlive());
+    }
+}
+
 class Jealous : public CLQButton {
   public:
     void OnLostFocus() override {

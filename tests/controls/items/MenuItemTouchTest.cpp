@@ -335,5 +335,58 @@ TEST_F(MenuItemLongPress, CommandOfADeletedTileNamesItsAddressOnly) {
     EXPECT_EQ(listener.commands[0].source, address);
 }
 
+/// A menu that goes, with its tile, when it hears of it.
+class DoomedMenu : public CLQWindow {
+  public:
+    DoomedMenu() {
+        Create(0, 0, 400, 300);
+        AddChild(new TestTile);  // the window deletes it
+    }
+    TestTile& Tile() { return *static_cast<TestTile*>(GetChild(0)); }
+    bool DoCommand(_LQMessage*) override {
+        delete this;
+        return true;
+    }
+    void OnTile(TestTile*) { delete this; }
+};
+
+class MenuItemInDoomedMenu : public testing::Test {
+  protected:
+    MenuItemInDoomedMenu() : menu(new DoomedMenu), tileLife(menu->Tile().WatchLife()) { scene.Pump(); }
+
+    void ExpectGone() {
+        EXPECT_FALSE(tileLife.IsAlive());
+        EXPECT_EQ(CLQScreen::GetInstance()->GetWindowCount(), 0);
+        scene.Release(kX, kY);
+        scene.Advance(2 * kLongPress);
+    }
+
+    Scene scene;
+    DoomedMenu* menu;  // deletes itself
+    LifeWatch tileLife;
+};
+
+TEST_F(MenuItemInDoomedMenu, SurvivesAPressHandlerThatDeletesTheWindow) {
+    menu->Tile().AddCallBack(kEventPressed, menu, &DoomedMenu::OnTile);
+    menu->Tile().AddCallBack(kEventLongPress, menu, &DoomedMenu::OnTile);
+    scene.Press(kX, kY);
+    ExpectGone();
+}
+
+TEST_F(MenuItemInDoomedMenu, SurvivesALongPressHandlerThatDeletesTheWindow) {
+    menu->Tile().AddCallBack(kEventLongPress, menu, &DoomedMenu::OnTile);
+    scene.Press(kX, kY);
+    ASSERT_TRUE(tileLife.IsAlive());
+    scene.Advance(kLongPress);
+    ExpectGone();
+}
+
+TEST_F(MenuItemInDoomedMenu, SurvivesAClickThatDeletesTheWindow) {
+    scene.Press(kX, kY);
+    ASSERT_TRUE(tileLife.IsAlive());
+    scene.Release(kX, kY);
+    ExpectGone();
+}
+
 }  // namespace
 }  // namespace korvane::test

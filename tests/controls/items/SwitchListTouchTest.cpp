@@ -2,6 +2,7 @@
 #include <limits>
 #include <memory>
 
+#include "engine/window/Screen.h"
 #include "engine/window/Window.h"
 
 #include "tests/controls/Touches.h"
@@ -357,6 +358,45 @@ TEST_F(SwitchListTouch, SurvivesACallBackThatDeletesTheListInAWindow) {
     scene.Press(kInside, CellY(1));
     scene.Release(kInside, CellY(1));
     EXPECT_EQ(Doomed(), nullptr);
+    scene.Pump();
+}
+
+std::unique_ptr<CLQWindow>& DoomedWindow() {
+    static std::unique_ptr<CLQWindow> doomed;
+    return doomed;
+}
+
+TEST_F(SwitchListTouch, SurvivesACallBackThatDeletesTheWindow) {
+    Scene scene;
+    CLQWindow below;
+    below.Create(0, 0, 400, 300);
+    for (const int cell : {1, 4}) {
+        DoomedWindow() = std::make_unique<CLQWindow>();
+        DoomedWindow()->Create(0, 0, 400, 300);
+        auto* created = new TestSwitchList;
+        created->Prepare(icons);
+        created->SetCallBackClick([](int, bool) { DoomedWindow().reset(); });
+        DoomedWindow()->AddChild(created);  // the window deletes it
+        const LifeWatch life = created->WatchLife();
+        scene.Press(kInside, CellY(cell));
+        scene.Release(kInside, CellY(cell));
+        EXPECT_EQ(DoomedWindow(), nullptr) << cell;
+        EXPECT_FALSE(life.IsAlive());
+        EXPECT_EQ(CLQScreen::GetInstance()->GetWindowCount(), 1);
+        scene.Pump();
+    }
+}
+
+TEST_F(SwitchListTouch, SurvivesACallBackThatDeletesTheWindowAndLeavesTheList) {
+    Scene scene;
+    DoomedWindow() = std::make_unique<CLQWindow>();
+    DoomedWindow()->Create(0, 0, 400, 300);
+    list.SetCallBackClick([](int, bool) { DoomedWindow().reset(); });
+    DoomedWindow()->AddChild(&list);
+    scene.Press(kInside, CellY(1));
+    scene.Release(kInside, CellY(1));
+    EXPECT_EQ(DoomedWindow(), nullptr);
+    EXPECT_EQ(list.GetFatherWnd(), nullptr);
     scene.Pump();
 }
 
