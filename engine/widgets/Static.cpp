@@ -98,7 +98,13 @@ void CLQStatic::EnableTextScroll(bool enable) {
     if (enable == m_scroll.enabled)
         return;
     m_scroll.enabled = enable;
-    RestartScroll();
+    // A text at rest looks the same either way; all it may need is its timer.
+    if (m_scroll.scrolled != 0)
+        Invalidate();
+    m_timerScroll.StopTimer();
+    m_scroll.Restart();
+    if (enable && !IsNeedRedraw())
+        KeepScrolling(m_line.Measure().width);
 }
 
 void CLQStatic::EnableScrollTextTooLong(bool enable) {

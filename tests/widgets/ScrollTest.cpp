@@ -205,6 +205,22 @@ TEST_F(Scroll, GoesBackToItsPlaceWhenItIsSwitchedOff) {
     EXPECT_EQ(scene.Pixels(), rest);
 }
 
+TEST_F(Scroll, AsksForNoRepaintWhenATextAtRestIsSwitchedOnOrOff) {
+    CLQScreen::GetInstance()->ResetCounters();
+    label.EnableTextScroll(true);
+    scene.Pump();
+    EXPECT_TRUE(IsAnyTimerRunning());
+    label.EnableTextScroll(false);
+    scene.Advance(1000);
+    EXPECT_FALSE(IsAnyTimerRunning());
+    EXPECT_EQ(CLQScreen::GetInstance()->GetCounters().paints, 0u);
+    label.EnableTextScroll(true);
+    scene.Advance(150);
+    label.EnableTextScroll(false);
+    scene.Pump();
+    EXPECT_EQ(CLQScreen::GetInstance()->GetCounters().paints, 2u) << "a step, and back";
+}
+
 TEST_F(Scroll, StartsANewTextFromItsPlace) {
     label.SetTextScrollNum(1);
     label.EnableTextScroll(true);
