@@ -29,7 +29,9 @@ KORVANE_API BOOL MessageBeep(UINT kind);
 #define DispatchMessageW korvane::desktop::DispatchMessageW
 #define PostMessageW korvane::desktop::PostMessageW
 #define PostQuitMessage korvane::desktop::PostQuitMessage
-#define SetTimer korvane::desktop::SetTimer
 #define KillTimer korvane::desktop::KillTimer
 #define MessageBeep korvane::desktop::MessageBeep
+// Classes have functions of this name, too, which take one argument.
+#define SetTimer(...) KORVANE_FIFTH(__VA_ARGS__, korvane::desktop::SetTimer, , , SetTimer, )(__VA_ARGS__)
+#define KORVANE_FIFTH(first, second, third, fourth, fifth, ...) fifth
 #endif
