@@ -1,8 +1,24 @@
 # What the simulated device holds: pictures drawn as SVG, layouts written as text, and files as they are.
-find_program(RSVG_CONVERT rsvg-convert)
-if(NOT RSVG_CONVERT)
-  message(FATAL_ERROR "rsvg-convert is missing: install the Debian package librsvg2-bin")
+if(CMAKE_CROSSCOMPILING)
+  # They are the same everywhere, and the tools that make them run there.
+  set(KORVANE_BUILT_DEVICE_DIR "${PROJECT_SOURCE_DIR}/build/release/device" CACHE PATH
+      "The device root of a build for this machine, whose pictures and layouts a build for another one takes")
+else()
+  find_program(RSVG_CONVERT rsvg-convert)
+  if(NOT RSVG_CONVERT)
+    message(FATAL_ERROR "rsvg-convert is missing: install the Debian package librsvg2-bin")
+  endif()
 endif()
+
+# Copies one file of that device to ours, `path` being where it lies in both.
+function(_korvane_copy_built_file path)
+  add_custom_command(
+    OUTPUT "${KORVANE_DEVICE_DIR}/${path}"
+    COMMAND "${CMAKE_COMMAND}" -E copy "${KORVANE_BUILT_DEVICE_DIR}/${path}" "${KORVANE_DEVICE_DIR}/${path}"
+    DEPENDS "${KORVANE_BUILT_DEVICE_DIR}/${path}"
+    COMMENT "Copying ${path} to the device"
+    VERBATIM)
+endfunction()
 
 # korvane_add_images(<target> [FRAME <frame.svg>] [PREFIX <text>] [STYLES <folder> STATES <state>...]
 #                    [FILES] <file.svg>...)
@@ -48,10 +64,15 @@ endfunction()
 
 # Converts one file, under a style sheet unless its name is empty, and adds the image to the caller's list.
 function(_korvane_convert_image svg name style)
-  set(image_dir "${KORVANE_DEVICE_DIR}/NandFlash/Application/Resource/Image")
-  file(MAKE_DIRECTORY "${image_dir}")
+  set(image_dir NandFlash/Application/Resource/Image)
+  file(MAKE_DIRECTORY "${KORVANE_DEVICE_DIR}/${image_dir}")
   set(png "${work_dir}/${name}.png")
-  set(image "${image_dir}/${name}.lqi")
+  set(image "${KORVANE_DEVICE_DIR}/${image_dir}/${name}.lqi")
+  set(images ${images} "${image}" PARENT_SCOPE)
+  if(CMAKE_CROSSCOMPILING)
+    _korvane_copy_built_file("${image_dir}/${name}.lqi")
+    return()
+  endif()
   add_custom_command(
     OUTPUT "${image}"
     COMMAND "${RSVG_CONVERT}" "$<$<BOOL:${style}>:--stylesheet=${style}>" --output "${png}" "${svg}"
@@ -61,7 +82,6 @@ function(_korvane_convert_image svg name style)
     COMMENT "Converting ${name}"
     COMMAND_EXPAND_LISTS
     VERBATIM)
-  set(images ${images} "${image}" PARENT_SCOPE)
 endfunction()
 
 # korvane_add_layouts(<target> [IMAGES <target>...] [FILES] <file.ini>...)
@@ -71,12 +91,18 @@ endfunction()
 # without any they are not looked for.
 function(korvane_add_layouts target)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "IMAGES;FILES")
-  set(layout_dir "${KORVANE_DEVICE_DIR}/NandFlash/Application/Resource/Layout")
+  set(layout_path NandFlash/Application/Resource/Layout)
+  set(layout_dir "${KORVANE_DEVICE_DIR}/${layout_path}")
   file(MAKE_DIRECTORY "${layout_dir}")
   set(layouts)
   foreach(file IN LISTS arg_UNPARSED_ARGUMENTS arg_FILES)
     get_filename_component(ini "${file}" ABSOLUTE)
     get_filename_component(name "${file}" NAME_WE)
+    list(APPEND layouts "${layout_dir}/${name}.bin")
+    if(CMAKE_CROSSCOMPILING)
+      _korvane_copy_built_file("${layout_path}/${name}.bin")
+      continue()
+    endif()
     add_custom_command(
       OUTPUT "${layout_dir}/${name}.bin"
       COMMAND lqlayout check --device-root "${KORVANE_DEVICE_DIR}" "$<$<NOT:$<BOOL:${arg_IMAGES}>>:--no-images>"
@@ -86,7 +112,6 @@ function(korvane_add_layouts target)
       COMMENT "Compiling ${name}.ini"
       COMMAND_EXPAND_LISTS
       VERBATIM)
-    list(APPEND layouts "${layout_dir}/${name}.bin")
   endforeach()
   add_custom_target(${target} ALL DEPENDS ${layouts})
 endfunction()
