@@ -40,8 +40,8 @@ void HeadUnit::Create(int x, int y) {
     for (MenuButton* const button : {&radio_.GetMenuButton(), &other_.GetMenuButton()})
         button->WhenTouched([this] { SlideTo(Screen::Menu); });
     menu_.WhenChosen([this](MenuItem item) { OnMenu(item); });
+    menu_.WhenRearranged([this] { ShowTitle(); });
     sources_.WhenChosen([this](int id) { ChooseSource(id); });
-    strip_.SetTitleBackBtnID(kCaptionBack);
     strip_.WhenBack([this] { OnBack(); });
     strip_.WhenSystemChanged([this](int item) { OnSystemChanged(item); });
     ShowZone();
@@ -79,7 +79,10 @@ void HeadUnit::OnBack() {
             ChooseSource(kRadioSource);
             break;
         case Screen::Menu:
-            SlideTo(Screen::Player);
+            if (menu_.IsRearranging())
+                menu_.EndRearranging();
+            else
+                SlideTo(Screen::Player);
             break;
         case Screen::Sources:
         case Screen::Gauges:
@@ -206,7 +209,7 @@ void HeadUnit::Enter(Screen screen) {
     const bool showsRadio = screen == Screen::Player && PlaysRadio();
     if (!showsRadio)
         radio_.StopSeeking();
-    strip_.ShowTitle(Title());
+    ShowTitle();
     strip_.SetTitleBackBtnShow(!showsRadio);
 }
 
@@ -238,12 +241,20 @@ bool HeadUnit::PlaysRadio() const {
     return !current_ || current_->screen == SourceScreenKind::Radio;
 }
 
+void HeadUnit::ShowTitle() {
+    const bool isRearranging = screen_ == Screen::Menu && menu_.IsRearranging();
+    strip_.SetTitleBackBtnID(isRearranging ? kCaptionDone : kCaptionBack);
+    strip_.ShowTitle(Title());
+}
+
 int HeadUnit::Title() const {
     switch (screen_) {
         case Screen::Player:
             return current_ ? current_->caption : kCaptionTuner;
         case Screen::Menu:
-            return kCaptionMenu;
+            if (!menu_.IsRearranging())
+                return kCaptionMenu;
+            return menu_.HasTileInHand() ? kCaptionChoosePlace : kCaptionChooseTile;
         case Screen::Sources:
             return kCaptionSources;
         case Screen::Gauges:

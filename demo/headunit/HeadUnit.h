@@ -51,6 +51,7 @@ class HeadUnit {
     void SwitchWindows();
     CLQWindow& ShownWindow();
     bool PlaysRadio() const;
+    void ShowTitle();
     int Title() const;
 
     static constexpr int kNoSource = -1;

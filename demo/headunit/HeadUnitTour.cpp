@@ -131,7 +131,9 @@ void ShowMenu(TourScript& tour) {
     tour.Press(kMenuX, kMenuY).Picture("menu-button-pressed").Release(kMenuX, kMenuY).Picture("menu");
     tour.Wait(4 * kTickMs).Picture("menu-plays");
     tour.Press(TileX(1), kUpperTileY).Picture("menu-media-pressed").Wait(kLongPressMs);
-    tour.Release(TileX(1), kUpperTileY).Wait(4 * kTickMs).Picture("menu-media-stilled");
+    tour.Release(TileX(1), kUpperTileY).Picture("menu-media-in-hand");
+    tour.Touch(TileX(1), kLowerTileY).Picture("menu-media-moved").Touch(TileX(1), kLowerTileY);
+    tour.Touch(TileX(1), kUpperTileY).Touch(kBackX, kStripY).Picture("menu-as-before");
     tour.Touch(TileX(1), kUpperTileY).Picture("media").Touch(kMenuX, kMenuY);
     tour.Picture("menu-media-playing").Set(L"language", 5).Picture("menu-german").Set(L"language", 0);
     tour.Touch(TileX(0), kUpperTileY).Picture("radio-from-the-menu");

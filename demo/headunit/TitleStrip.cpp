@@ -30,6 +30,10 @@ bool TitleStrip::OnInit() {
 }
 
 bool TitleStrip::DoMessage(_LQMessage* msg) {
+    // The keys are for the screen below, unless the panel covers it.
+    const bool isKey = msg && (msg->code == kMsgKeyDown || msg->code == kMsgKeyUp);
+    if (isKey && !ShowsShortcuts())
+        return false;
     const bool isSystemChange = msg && msg->code == kMsgSysInfoChanged;
     const int item = isSystemChange ? msg->param : 0;
     const bool result = CLQTitleDialog::DoMessage(msg);

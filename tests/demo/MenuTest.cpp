@@ -12,7 +12,6 @@ namespace {
 
 constexpr unsigned kImageMs = 100;
 constexpr unsigned kSequenceMs = 8 * kImageMs;
-constexpr unsigned kLongPressMs = 2000;
 
 constexpr Place kRadioTile = {141, 168};
 constexpr Place kMediaTile = {400, 168};
@@ -25,11 +24,6 @@ class MenuTest : public HeadUnitBench {
     /// A pixel of the radio's tile, left of its caption: coloured where the tile is marked.
     std::uint32_t RadioMark() { return scene_.PixelAt(60, 222); }
     std::uint32_t MediaMark() { return scene_.PixelAt(319, 222); }
-    void PressLong(Place place) {
-        scene_.Press(place.x, place.y);
-        scene_.Advance(kLongPressMs);
-        scene_.Release(place.x, place.y);
-    }
     /// Paints within the time of one image.
     std::uint64_t PaintsInOneImage() {
         CLQScreen::GetInstance()->ResetCounters();
@@ -132,8 +126,6 @@ TEST_F(MenuTest, DoesNothingForATileThatLeadsNowhere) {
     Touch(kMenuButton);
     Touch(kFilesTile);
     EXPECT_TRUE(ShowsMenu());
-    PressLong(kFilesTile);
-    EXPECT_TRUE(ShowsMenu());
 }
 
 TEST_F(MenuTest, PlaysItsPicturesWhileItIsShown) {
@@ -147,33 +139,26 @@ TEST_F(MenuTest, PlaysItsPicturesWhileItIsShown) {
     EXPECT_EQ(PaintsInOneImage(), 0u);
 }
 
-TEST_F(MenuTest, StillsATileByALongPressAndLetsItPlayByAnother) {
-    Touch(kMenuButton);
-    PressLong(kRadioTile);
-    EXPECT_TRUE(ShowsMenu()) << "the release is no touch";
-    const std::uint64_t paints = PaintsInOneImage();
-    PressLong(kMediaTile);
-    const std::uint64_t fewerPaints = PaintsInOneImage();
-    EXPECT_LT(fewerPaints, paints);
-    Touch(kBackButton);
-    Touch(kMenuButton);
-    EXPECT_EQ(PaintsInOneImage(), fewerPaints) << "stays still";
-    PressLong(kRadioTile);
-    EXPECT_EQ(PaintsInOneImage(), paints);
-    Touch(kRadioTile);
-    EXPECT_TRUE(ShowsRadio());
-}
-
 TEST_F(MenuTest, FollowsTheKeysInCursorMode) {
     Touch(kMenuButton);
-    SetCursorState(true);
+    scene_.Key(VK_RIGHT);
     scene_.Key(VK_RIGHT);
     const std::vector<std::uint32_t> first = scene_.Pixels();
     scene_.Key(VK_RIGHT);
     EXPECT_FALSE(scene_.Pixels() == first) << "the frame went on";
     scene_.Key(VK_RETURN);
+    EXPECT_TRUE(scene_.Shows(L"Sources"));
     SetCursorState(false);
-    EXPECT_FALSE(ShowsMenu());
+}
+
+TEST_F(MenuTest, LeavesTheKeysToTheShortcutsWhileTheyAreOpen) {
+    Touch({688, 224});
+    ASSERT_TRUE(scene_.ShowsControl(L"ShortCutBtn1"));
+    scene_.Key(VK_RIGHT);
+    scene_.Key(VK_DOWN);
+    scene_.Key(VK_RETURN);
+    SetCursorState(false);
+    EXPECT_FALSE(scene_.ShowsControl(L"ShortCutBtn1"));
 }
 
 TEST_F(MenuTest, EndsASeekWhenItCovers) {

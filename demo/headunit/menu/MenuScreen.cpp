@@ -29,36 +29,105 @@ constexpr Entry kEntries[] = {
 
 bool MenuScreen::OnInit() {
     SetBkgSurf(L"SourceBkg.lqi");
-    for (std::size_t i = 0; i < kTiles; ++i) {
+    for (std::size_t i = 0; i < kMenuItems; ++i) {
         const Entry& entry = kEntries[i];
-        const int column = static_cast<int>(i) % kColumns;
-        const int row = static_cast<int>(i) / kColumns;
         MenuTile& tile = tiles_[i];
-        tile.SetUp(kLeft + kColumnWidth * column, kTop + kRowHeight * row, entry.picture, entry.caption);
+        tile.SetUp(entry.picture, entry.caption);
         if (!entry.isThere)
             tile.DimOut();
+        tile.AddCallBack(kEventLongPress, this, &MenuScreen::OnLongPress);
         AddChild(&tile);
     }
+    order_.Load();
+    PlaceTiles();
     return true;
+}
+
+void MenuScreen::PlaceTiles() {
+    for (std::size_t place = 0; place < kMenuItems; ++place) {
+        const int column = static_cast<int>(place) % kColumns;
+        const int row = static_cast<int>(place) / kColumns;
+        TileOf(order_.At(place)).MoveTo(kLeft + kColumnWidth * column, kTop + kRowHeight * row);
+    }
 }
 
 void MenuScreen::SetShow(bool show) {
     CLQWindow::SetShow(show);
+    if (!show)
+        EndRearranging();
     for (MenuTile& tile : tiles_)
         tile.Play(show);
 }
 
 bool MenuScreen::DoCommand(_LQMessage* msg) {
-    for (std::size_t i = 0; i < kTiles; ++i) {
+    for (std::size_t i = 0; i < kMenuItems; ++i) {
         MenuTile& tile = tiles_[i];
         if (msg->source != &tile)
             continue;
         // The release that ends a long press comes as a command, too.
-        if (!tile.IsDesableState() && !tile.HasResponseLongPress() && onChosen_)
-            onChosen_(static_cast<MenuItem>(i));
+        if (!tile.HasResponseLongPress())
+            OnTouched(static_cast<MenuItem>(i));
         return true;
     }
     return false;
+}
+
+void MenuScreen::OnTouched(MenuItem item) {
+    if (!isRearranging_) {
+        if (!TileOf(item).IsDesableState() && onChosen_)
+            onChosen_(item);
+        return;
+    }
+    if (!inHand_) {
+        TakeInHand(item);
+    } else {
+        order_.Move(*inHand_, order_.PlaceOf(item));
+        PlaceTiles();
+        PutDown();
+    }
+    TellRearranged();
+}
+
+void MenuScreen::OnLongPress(MenuTile* tile) {
+    if (isRearranging_) {
+        EndRearranging();
+        return;
+    }
+    BeginRearranging();
+    TakeInHand(static_cast<MenuItem>(tile - tiles_.data()));
+    TellRearranged();
+}
+
+void MenuScreen::BeginRearranging() {
+    isRearranging_ = true;
+    for (MenuTile& tile : tiles_)
+        tile.ShowHandle(true);
+}
+
+void MenuScreen::EndRearranging() {
+    if (!isRearranging_)
+        return;
+    isRearranging_ = false;
+    PutDown();
+    for (MenuTile& tile : tiles_)
+        tile.ShowHandle(false);
+    TellRearranged();
+}
+
+void MenuScreen::TakeInHand(MenuItem item) {
+    inHand_ = item;
+    TileOf(item).ShowInHand(true);
+}
+
+void MenuScreen::PutDown() {
+    if (inHand_)
+        TileOf(*inHand_).ShowInHand(false);
+    inHand_.reset();
+}
+
+void MenuScreen::TellRearranged() {
+    if (onRearranged_)
+        onRearranged_();
 }
 
 void MenuScreen::MarkPlaying(MenuItem item, bool isPlaying) {

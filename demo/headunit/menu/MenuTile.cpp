@@ -18,49 +18,40 @@ constexpr int kCaptionHeight = 44;
 /// The sides of the frame, in the order of eBorderDirection.
 struct Side {
     const wchar_t* name;
+    const wchar_t* nameWithHandle;
     int x;
     int y;
 };
-constexpr Side kSides[] = {{L"MenuFrameLeft", 0, 20},
-                           {L"MenuFrameTop", 0, 0},
-                           {L"MenuFrameRight", 232, 20},
-                           {L"MenuFrameBottom", 0, 164}};
+constexpr Side kSides[] = {{L"MenuFrameLeft", L"MenuFrameLeft", 0, 20},
+                           {L"MenuFrameTop", L"MenuHandle", 0, 0},
+                           {L"MenuFrameRight", L"MenuFrameRight", 232, 20},
+                           {L"MenuFrameBottom", L"MenuFrameBottom", 0, 164}};
+
+CLQSurfHandle LoadImageOf(const std::wstring& file) {
+    return CLQSurfManager::GetInstance()->CreateSurface(file.c_str(), true);
+}
 
 CLQSurfHandle FirstImage(const wchar_t* pattern) {
     wchar_t file[64] = L"";
     std::swprintf(file, std::size(file), pattern, 1);
-    return CLQSurfManager::GetInstance()->CreateSurface(file, true);
+    return LoadImageOf(file);
 }
 
 }  // namespace
 
-void MenuTile::SetUp(int x, int y, const Picture& picture, int caption) {
-    Create(x, y, kWidth, kHeight);
+void MenuTile::SetUp(const Picture& picture, int caption) {
+    Create(0, 0, kWidth, kHeight);
     moves_ = picture.images > 1;
+    if (moves_)
+        firstImage_ = FirstImage(picture.pattern);
     SetImagePos(kImageEdge, kImageEdge);
     SetImage(picture.pattern, picture.images, kImageWidth, kImageHeight, kImageMs);
     Play(false);
     SetPressedShaderSurf(L"MenuShade.lqi");
-    SetRectAshSurf(L"MenuVeil.lqi");
     SetCurSourceSurf(L"MenuPlaying.lqi");
-    AddFrame();
+    UpdateFrame();
     AddCaption(caption);
     EnableFocus(true);
-    if (moves_) {
-        firstImage_ = FirstImage(picture.pattern);
-        AddCallBack(kEventLongPress, this, &MenuTile::OnLongPress);
-    }
-}
-
-void MenuTile::AddFrame() {
-    for (int i = 0; i < static_cast<int>(std::size(kSides)); ++i) {
-        const Side& side = kSides[i];
-        const std::wstring name = side.name;
-        SetBorderSurf((name + L"_f.lqi").c_str(), side.x, side.y,
-                      static_cast<eBorderDirection>(eBorder_FocusLeft + i));
-        SetBorderSurf((name + L"_n.lqi").c_str(), side.x, side.y,
-                      static_cast<eBorderDirection>(eBorder_Left + i));
-    }
 }
 
 void MenuTile::AddCaption(int caption) {
@@ -78,15 +69,42 @@ void MenuTile::AddCaption(int caption) {
 
 void MenuTile::DimOut() {
     EnableDesableState(true);
-    EnableRectAshSurf(true);
+    UpdateVeil();
 }
 
-void MenuTile::OnLongPress() {
-    if (IsDesableState())
-        return;
-    isStill_ = !isStill_;
-    CLQSurfHandle none;
-    SetThumbNail(isStill_ ? firstImage_ : none);
+void MenuTile::ShowHandle(bool show) {
+    hasHandle_ = show;
+    if (moves_) {
+        CLQSurfHandle none;
+        SetThumbNail(show ? firstImage_ : none);
+    }
+    UpdateFrame();
+}
+
+void MenuTile::ShowInHand(bool show) {
+    isInHand_ = show;
+    UpdateFrame();
+    UpdateVeil();
+}
+
+void MenuTile::UpdateFrame() {
+    const std::wstring normal = isInHand_ ? L"_p.lqi" : L"_n.lqi";
+    for (int i = 0; i < static_cast<int>(std::size(kSides)); ++i) {
+        const Side& side = kSides[i];
+        const std::wstring name = hasHandle_ ? side.nameWithHandle : side.name;
+        CLQSurfHandle plain = LoadImageOf(name + normal);
+        CLQSurfHandle focused = LoadImageOf(name + L"_f.lqi");
+        SetBorderSurf(plain, side.x, side.y, static_cast<eBorderDirection>(eBorder_Left + i));
+        SetBorderSurf(focused, side.x, side.y, static_cast<eBorderDirection>(eBorder_FocusLeft + i));
+    }
+    Invalidate();
+}
+
+/// A tile in hand stays shaded as if it were pressed.
+void MenuTile::UpdateVeil() {
+    SetRectAshSurf(isInHand_ ? L"MenuShade.lqi" : L"MenuVeil.lqi");
+    EnableRectAshSurf(isInHand_ || IsDesableState());
+    Invalidate();
 }
 
 }  // namespace korvane::demo

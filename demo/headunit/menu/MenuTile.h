@@ -4,8 +4,7 @@
 
 namespace korvane::demo {
 
-/// A tile of the menu: a picture that moves or stands still, and a caption. A long press on one that moves
-/// stills it, the next one lets it move again.
+/// A tile of the menu: a picture that moves or stands still, and a caption.
 class MenuTile : public CLQMenuItemCtrl {
   public:
     static constexpr int kWidth = 236;
@@ -17,20 +16,27 @@ class MenuTile : public CLQMenuItemCtrl {
         int images;
     };
 
-    /// Sets everything up, with the top-left corner at (x, y) of the window. The picture does not play yet.
-    void SetUp(int x, int y, const Picture& picture, int caption);
-    /// Lets the picture play, unless it was stilled, is dimmed or consists of one image.
+    /// Sets everything up; the tile lies in the window's corner until it is moved. The picture does not play
+    /// yet.
+    void SetUp(const Picture& picture, int caption);
+    /// Lets the picture play, unless it consists of one image or is dimmed.
     void Play(bool play) { EnableImagePlay(play && moves_ && !IsDesableState()); }
-    /// A tile that leads nowhere: dimmed, and deaf to long presses.
+    /// The look of a tile whose screen is not there.
     void DimOut();
 
+    /// The look of a tile that can be moved: its picture stands still, and its frame has a handle.
+    void ShowHandle(bool show);
+    /// The look of the tile that is being moved.
+    void ShowInHand(bool show);
+
   private:
-    void AddFrame();
     void AddCaption(int caption);
-    void OnLongPress();
+    void UpdateFrame();
+    void UpdateVeil();
 
     bool moves_ = false;
-    bool isStill_ = false;
+    bool hasHandle_ = false;
+    bool isInHand_ = false;
     CLQSurfHandle firstImage_;
 };
 
