@@ -30,7 +30,7 @@ references: build  ## Write the reference pictures of the tests anew; look at ea
 	@KORVANE_ACCEPT_REFERENCES=1 ctest --preset $(PRESET) --parallel $(JOBS) --quiet
 	@git status --short tests/references
 
-bench: configure  ## Measure speed, start, memory and size
+bench: configure  ## Measure speed, frames, start, memory and size
 	@cmake --build --preset $(PRESET) --parallel $(JOBS) --target korvane_bench
 	@build/$(PRESET)/bin/korvane_bench
 

@@ -31,11 +31,14 @@ void RatioTable::ReportRuns(const std::vector<Run>& runs) {
         const double time = run.real_accumulated_time / static_cast<double>(run.iterations) * 1e6;
         double& least = microseconds_[work].emplace(party, time).first->second;
         least = std::min(least, time);
+        const auto pixels = run.counters.find("pixels");
+        if (pixels != run.counters.end())
+            pixels_[work] = pixels->second;
     }
 }
 
 void RatioTable::Finalize() {
-    std::printf("%-44s %10s", "work into an 800 by 480 ARGB surface", "ours us");
+    std::printf("%-44s %10s %8s", "work into an 800 by 480 ARGB surface", "ours us", "pixels");
     for (const char* peer : kPeers)
         std::printf("  x %-7s", peer);
     std::printf("\n");
@@ -45,6 +48,11 @@ void RatioTable::Finalize() {
         if (ours == times.end())
             continue;
         std::printf("%-44s %10.2f", work.c_str(), ours->second);
+        const auto pixels = pixels_.find(work);
+        if (pixels == pixels_.end())
+            std::printf(" %8s", "-");
+        else
+            std::printf(" %8.0f", pixels->second);
         for (const char* peer : kPeers) {
             const auto theirs = times.find(peer);
             if (theirs == times.end())

@@ -7,9 +7,9 @@
 
 namespace korvane::bench {
 
-/// Collects the times of benchmarks named "<work>|<party>" and prints a row for each work: the time of "ours"
-/// and how many times as fast it is as each peer. Times are the least of the repetitions, which noise can
-/// only lengthen.
+/// Collects the times of benchmarks named "<work>|<party>" and prints a row for each work: the time of
+/// "ours", its counter "pixels" if it has one, and how many times as fast it is as each peer. Times are the
+/// least of the repetitions, which noise can only lengthen.
 class RatioTable : public benchmark::BenchmarkReporter {
   public:
     bool ReportContext(const Context& context) override;
@@ -18,6 +18,7 @@ class RatioTable : public benchmark::BenchmarkReporter {
 
   private:
     std::map<std::string, std::map<std::string, double>> microseconds_;
+    std::map<std::string, double> pixels_;
 };
 
 }  // namespace korvane::bench
