@@ -56,6 +56,7 @@ enum Caption : int {
     kCaptionPreset4 = 48,
     kCaptionPreset5 = 49,
     kCaptionPreset6 = 50,
+    kCaptionPresets = 51,
 
     // Media
     kCaptionPlay = 60,

@@ -39,6 +39,7 @@ void HeadUnit::Create(int x, int y) {
     other_.GetSourcesButton().AddCallBack(kEventReleased, &strip_, &TitleStrip::OpenShortcuts);
     for (MenuButton* const button : {&radio_.GetMenuButton(), &other_.GetMenuButton()})
         button->WhenTouched([this] { SlideTo(Screen::Menu); });
+    radio_.WhenPresetsWanted([this] { SlideTo(Screen::Presets); });
     menu_.WhenChosen([this](MenuItem item) { OnMenu(item); });
     menu_.WhenRearranged([this] { ShowTitle(); });
     sources_.WhenChosen([this](int id) { ChooseSource(id); });
@@ -50,7 +51,7 @@ void HeadUnit::Create(int x, int y) {
 }
 
 std::vector<CLQWindow*> HeadUnit::Screens() {
-    return {&radio_, &other_, &menu_, &sources_, &gauges_};
+    return {&radio_, &presets_, &other_, &menu_, &sources_, &gauges_};
 }
 
 void HeadUnit::OnSystemChanged(int item) {
@@ -77,6 +78,9 @@ void HeadUnit::OnBack() {
     switch (screen_) {
         case Screen::Player:
             ChooseSource(kRadioSource);
+            break;
+        case Screen::Presets:
+            SlideTo(Screen::Player);
             break;
         case Screen::Menu:
             if (menu_.IsRearranging())
@@ -223,6 +227,8 @@ void HeadUnit::SwitchWindows() {
 
 CLQWindow& HeadUnit::ShownWindow() {
     switch (screen_) {
+        case Screen::Presets:
+            return presets_;
         case Screen::Menu:
             return menu_;
         case Screen::Sources:
@@ -251,6 +257,8 @@ int HeadUnit::Title() const {
     switch (screen_) {
         case Screen::Player:
             return current_ ? current_->caption : kCaptionTuner;
+        case Screen::Presets:
+            return kCaptionPresets;
         case Screen::Menu:
             if (!menu_.IsRearranging())
                 return kCaptionMenu;

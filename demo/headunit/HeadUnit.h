@@ -9,7 +9,9 @@
 #include "demo/headunit/TitleStrip.h"
 #include "demo/headunit/gauges/GaugesScreen.h"
 #include "demo/headunit/menu/MenuScreen.h"
+#include "demo/headunit/radio/PresetsScreen.h"
 #include "demo/headunit/radio/RadioScreen.h"
+#include "demo/headunit/radio/Tuner.h"
 #include "demo/headunit/sources/SourcesScreen.h"
 
 namespace korvane::demo {
@@ -32,7 +34,7 @@ class HeadUnit {
 
   private:
     /// In their order from what plays inwards.
-    enum class Screen { Player, Menu, Sources, Gauges };
+    enum class Screen { Player, Presets, Menu, Sources, Gauges };
 
     std::vector<CLQWindow*> Screens();
     void OnSystemChanged(int item);
@@ -66,7 +68,9 @@ class HeadUnit {
     bool hasPhone_ = false;
     Screen screen_ = Screen::Player;
 
-    RadioScreen radio_;
+    Tuner tuner_;
+    RadioScreen radio_{tuner_};
+    PresetsScreen presets_{tuner_};
     SourceScreen other_;
     MenuScreen menu_;
     SourcesScreen sources_;

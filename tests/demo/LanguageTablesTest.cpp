@@ -149,6 +149,7 @@ TEST_P(LanguageTables, FitTheControlsThatShowThem) {
         EXPECT_LE(Width(id, 18), 128) << "shortcut button: " << id;
     EXPECT_LE(Width(kCaptionBack, 24), 136) << "back button";
     EXPECT_LE(Width(kCaptionSources, 22), 124) << "sources button";
+    EXPECT_LE(Width(kCaptionPresets, 22), 118) << "presets button";
     for (const int id : {kCaptionMore, kCaptionBack})
         EXPECT_LT(Width(id, 17), 240) << "cell that switches pages: " << id;
     for (const int id : {kCaptionSwipeToSeek, kCaptionSeekingUp, kCaptionSeekingDown, kCaptionHoldToStore})

@@ -41,7 +41,7 @@ TEST_F(ScreenSlides, PlayWhereTheUserGoes) {
 
 TEST_F(ScreenSlides, PlayFromSourceToSource) {
     EXPECT_EQ(MsOfSource(4), kSlideMs);
-    EXPECT_EQ(MsOfSource(6), kSlideMs);
+    EXPECT_EQ(MsOfSource(12), kSlideMs);
     EXPECT_EQ(MsOfTouch(kGuideButton), kSlideMs);
     EXPECT_EQ(MsOfTouch(kBackButton), kSlideMs);
 }

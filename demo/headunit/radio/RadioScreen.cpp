@@ -28,15 +28,18 @@ void CreateLabel(CLQStatic& label, const _LQRect& place, int size, int style, _L
 bool RadioScreen::OnInit() {
     SetBkgSurf(L"RadioBkg.lqi");
     CreateWheel();
-    CreateBandButton();
     CreateBandSlider();
     CreateHint();
-    sourcesButton_.Place(620, 172);
-    AddChild(&sourcesButton_);
-    menuButton_.Place();
-    AddChild(&menuButton_);
+    CreateButtons();
     ShowBand();
     return true;
+}
+
+void RadioScreen::SetShow(bool show) {
+    const bool comes = show && !IsShow();
+    CLQWindow::SetShow(show);
+    if (comes)
+        ShowBand();
 }
 
 void RadioScreen::CreateWheel() {
@@ -54,20 +57,6 @@ void RadioScreen::CreateWheel() {
                                this);
     wheel_.AddCallBack(kEventValueChanged, this, &RadioScreen::OnWheelStep);
     AddChild(&wheel_);
-}
-
-void RadioScreen::CreateBandButton() {
-    bandButton_.Create(44, 172, 136, 104);
-    bandButton_.SetImagePath(0, eImage_Normal, L"BandNormal.lqi");
-    bandButton_.SetImagePath(0, eImage_Pressed, L"BandPressed.lqi");
-    bandButton_.SetImagePath(0, eImage_Focus, L"BandFocus.lqi");
-    bandButton_.SetImagePath(0, eImage_Disabled, L"BandDisabled.lqi");
-    // The button owns its elements.
-    auto* caption = new CLQTextElement;
-    caption->SetFontSize(44, 44);
-    bandButton_.AddGUIElement(caption);
-    bandButton_.AddCallBack(kEventReleased, this, &RadioScreen::OnBandButton);
-    AddChild(&bandButton_);
 }
 
 void RadioScreen::CreateBandSlider() {
@@ -91,25 +80,46 @@ void RadioScreen::CreateHint() {
     AddChild(&hint_);
 }
 
+void RadioScreen::CreateButtons() {
+    bandButton_.Place(44, 172);
+    bandButton_.AddCallBack(kEventReleased, this, &RadioScreen::OnBandButton);
+    AddChild(&bandButton_);
+    sourcesButton_.Place(620, 172);
+    AddChild(&sourcesButton_);
+    menuButton_.Place();
+    AddChild(&menuButton_);
+
+    presetsButton_.Create(612, 430, 168, 46);
+    presetsButton_.SetImagePath(0, eImage_Normal, L"Presets_n.lqi");
+    presetsButton_.SetImagePath(0, eImage_Pressed, L"Presets_p.lqi");
+    presetsButton_.SetImagePath(0, eImage_Focus, L"Presets_f.lqi");
+    presetsButton_.SetImagePath(0, eImage_Disabled, L"Presets_d.lqi");
+    // The button owns its elements.
+    auto* caption = new CLQTextElement;
+    caption->SetFontSize(22, 22);
+    caption->SetRect(44, 6, 118, 32);
+    presetsButton_.AddGUIElement(caption);
+    presetsButton_.SetLangID(kCaptionPresets);
+    presetsButton_.AddCallBack(kEventReleased, this, &RadioScreen::OnPresetsButton);
+    AddChild(&presetsButton_);
+}
+
 void RadioScreen::ShowBand() {
-    const Band& band = CurrentBand();
+    const Band& band = tuner_.CurrentBand();
     bandButton_.SetText(band.name);
     lowest_.SetText(band.Text(band.bounds.minimum).c_str());
     highest_.SetText(band.Text(band.bounds.maximum).c_str());
     bandSlider_.SetRange(0, band.StepCount());
-    bandSlider_.SetValue(band.StepOf(Frequency()));
+    bandSlider_.SetValue(tuner_.Step());
     wheel_.MoveTo(kWheelLeft, kWheelTop + (band.bounds.decimal ? 0 : kWholeNumberDrop));
     wheel_.SetBoundScalFreqID(band.bounds);
-    wheel_.SetVaule(Frequency());
+    wheel_.SetVaule(tuner_.Frequency());
 }
 
 void RadioScreen::Tune(float frequency) {
-    const Band& band = CurrentBand();
-    const int step = band.StepOf(frequency);
-    // From the band's grid: the rounding errors of many steps would add up, and step over the band's end.
-    Frequency() = band.FrequencyOf(step);
-    wheel_.SetVaule(Frequency());
-    bandSlider_.SetValue(step);
+    tuner_.Tune(frequency);
+    wheel_.SetVaule(tuner_.Frequency());
+    bandSlider_.SetValue(tuner_.Step());
 }
 
 void RadioScreen::Seek(int hint) {
@@ -120,13 +130,13 @@ void RadioScreen::Seek(int hint) {
 void RadioScreen::StopSeeking() {
     wheel_.MoveStop();
     // Settles the rows, which stopped in the middle of a step, on the last frequency that was reached.
-    wheel_.SetVaule(Frequency());
+    wheel_.SetVaule(tuner_.Frequency());
     hint_.SetLangID(kCaptionSwipeToSeek);
 }
 
 void RadioScreen::OnBandButton(CLQButton*) {
     StopSeeking();
-    current_ = (current_ + 1) % stations_.size();
+    tuner_.SwitchBand();
     ShowBand();
 }
 
@@ -136,7 +146,12 @@ void RadioScreen::OnWheelStep(CLQNumSlider*, float* frequency) {
 
 void RadioScreen::OnBandSlider(CLQSliderCtrl*, int* step) {
     StopSeeking();
-    Tune(CurrentBand().FrequencyOf(*step));
+    Tune(tuner_.CurrentBand().FrequencyOf(*step));
+}
+
+void RadioScreen::OnPresetsButton() {
+    if (onPresetsWanted_)
+        onPresetsWanted_();
 }
 
 }  // namespace korvane::demo

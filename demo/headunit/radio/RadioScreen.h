@@ -1,14 +1,15 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
+#include <functional>
 #include <string>
+#include <utility>
 
 #include "KorvaneEx.h"
 
 #include "demo/headunit/SourcesButton.h"
 #include "demo/headunit/menu/MenuButton.h"
-#include "demo/headunit/radio/Band.h"
+#include "demo/headunit/radio/BandButton.h"
+#include "demo/headunit/radio/Tuner.h"
 
 namespace korvane::demo {
 
@@ -16,18 +17,25 @@ namespace korvane::demo {
 /// slider that shows where in the band the radio is and tunes by hand.
 class RadioScreen : public CLQWindow {
   public:
+    /// The tuner outlives the screen.
+    explicit RadioScreen(Tuner& tuner) : tuner_(tuner) {}
+
     std::wstring GetDialogName() override { return L"Radio"; }
     bool OnInit() override;
+    /// Shows what is tuned by then: other screens tune, too.
+    void SetShow(bool show) override;
 
     /// Ends a seek, on the frequency that it has reached.
     void StopSeeking();
     CLQButton& GetSourcesButton() { return sourcesButton_; }
     MenuButton& GetMenuButton() { return menuButton_; }
+    /// Called when the button of the presets was touched.
+    void WhenPresetsWanted(std::function<void()> handler) { onPresetsWanted_ = std::move(handler); }
 
   private:
     void CreateWheel();
-    void CreateBandButton();
     void CreateBandSlider();
+    void CreateButtons();
     void CreateHint();
 
     void ShowBand();
@@ -37,26 +45,20 @@ class RadioScreen : public CLQWindow {
     void OnBandButton(CLQButton* button);
     void OnWheelStep(CLQNumSlider* wheel, float* frequency);
     void OnBandSlider(CLQSliderCtrl* slider, int* step);
+    void OnPresetsButton();
 
-    struct Station {
-        Band band;
-        float frequency;
-    };
-    Band& CurrentBand() { return stations_[current_].band; }
-    float& Frequency() { return stations_[current_].frequency; }
-
-    // The bands, each with the frequency that was last heard on it.
-    std::array<Station, 2> stations_ = {Station{MakeFm(), MakeFm().start}, Station{MakeAm(), MakeAm().start}};
-    std::size_t current_ = 0;
+    Tuner& tuner_;
+    std::function<void()> onPresetsWanted_;
 
     CLQNumSlider wheel_;
-    CLQButton bandButton_;
+    BandButton bandButton_;
     CLQSliderCtrl bandSlider_;
     CLQStatic lowest_;
     CLQStatic highest_;
     CLQStatic hint_;
     SourcesButton sourcesButton_;
     MenuButton menuButton_;
+    CLQButton presetsButton_;
 };
 
 }  // namespace korvane::demo

@@ -80,7 +80,8 @@ class RadioTest : public testing::Test {
     }
 
     test::DemoScene scene_;
-    RadioScreen radio_;
+    Tuner tuner_;
+    RadioScreen radio_{tuner_};
 };
 
 constexpr int kStartStep = 220;  // 98.5 MHz
@@ -183,6 +184,18 @@ TEST_F(RadioTest, StopsSeekingWhenTunedByHand) {
     DragToLowerEnd();
     EXPECT_FALSE(IsSeeking());
     EXPECT_EQ(Step(), 0);
+}
+
+TEST_F(RadioTest, ShowsWhatWasTunedWhileItWasHidden) {
+    const auto before = scene_.Pixels();
+    radio_.SetShow(false);
+    tuner_.SwitchBand();
+    tuner_.Tune(1089.0f);
+    radio_.SetShow(true);
+    EXPECT_TRUE(Shows(L"1602"));
+    EXPECT_EQ(Step(), 62);
+    PressBandButton();
+    EXPECT_EQ(scene_.Pixels(), before);
 }
 
 TEST_F(RadioTest, ATickOfTheWheelRepaintsTheWheelAlone) {
