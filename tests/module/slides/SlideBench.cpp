@@ -14,6 +14,7 @@ namespace korvane::test {
 namespace {
 
 std::vector<Shown> g_shown;
+unsigned g_presentMs = 0;
 
 void Note(const std::uint32_t* pixels, int stride, int left, int top, int right, int bottom) {
     Shown shown;
@@ -27,6 +28,7 @@ void Note(const std::uint32_t* pixels, int stride, int left, int top, int right,
         shown.pixels.insert(shown.pixels.end(), row + left, row + right);
     }
     g_shown.push_back(shown);
+    AdvanceClock(g_presentMs);
 }
 
 void SetSink(PresentSink sink) {
@@ -84,7 +86,12 @@ SlideBench::~SlideBench() {
     CLQScreen::GetInstance()->Close();
     SetSink(nullptr);
     shown.clear();
+    g_presentMs = 0;
     UseSystemClock();
+}
+
+void SlideBench::SetPresentTime(unsigned ms) {
+    g_presentMs = ms;
 }
 
 void SlideBench::Pump() {

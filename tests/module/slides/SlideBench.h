@@ -47,6 +47,8 @@ class SlideBench : public testing::Test {
     ~SlideBench() override;
 
     void Pump();
+    /// How long the display takes from now on for each picture, on the manual clock; 0 at first.
+    void SetPresentTime(unsigned ms);
     /// The back buffer's pixels in a rectangle, row by row.
     std::vector<std::uint32_t> ScreenPixels(int x, int y, int width, int height);
 

@@ -97,6 +97,19 @@ TEST_P(SlideWays, ShowEachFrameOfOneToTwentyExactly) {
     }
 }
 
+TEST_P(SlideWays, TimeEachFrameFromWhenTheLastOneWasShown) {
+    const Way& way = GetParam();
+    for (const unsigned ms : {30u, 100u}) {
+        SetPresentTime(ms);
+        shown.clear();
+        const DWORD start = GetTickCount();
+        way.slide(window, panel, 3);
+        ASSERT_EQ(shown.size(), 3u);
+        for (unsigned i = 0; i < 3; ++i)
+            EXPECT_EQ(shown[i].tick, start + 80 + i * (ms + 80)) << ms;
+    }
+}
+
 TEST_P(SlideWays, TakeFewerThanOneFrameAsOne) {
     const Way& way = GetParam();
     for (const int frames : {0, -1, INT_MIN}) {
