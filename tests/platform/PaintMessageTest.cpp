@@ -74,8 +74,18 @@ TEST(PaintMessage, SurvivesRectanglesOfEverySize) {
     InvalidateRect(window.Handle(), &huge, FALSE);
     EXPECT_TRUE(UpdateOf(window) == (RECT{0, 0, 100, 80}));
     ValidateRect(window.Handle(), &huge);
-    const RECT reversed{50, 50, 10, 10};
+    EXPECT_FALSE(PaintIsDue(window));
+    const RECT empty{50, 50, 50, 60};
+    InvalidateRect(window.Handle(), &empty, FALSE);
+    EXPECT_FALSE(PaintIsDue(window));
+}
+
+TEST(PaintMessage, TakesTheEdgesOfARectangleInEitherOrder) {
+    const TestWindow window;
+    const RECT reversed{50, 60, 10, 20};
     InvalidateRect(window.Handle(), &reversed, FALSE);
+    EXPECT_TRUE(UpdateOf(window) == (RECT{10, 20, 50, 60}));
+    ValidateRect(window.Handle(), &reversed);
     EXPECT_FALSE(PaintIsDue(window));
 }
 
@@ -117,7 +127,6 @@ TEST(PaintMessage, IsRefusedForADeadWindow) {
     }
     EXPECT_FALSE(InvalidateRect(dead, nullptr, FALSE));
     EXPECT_FALSE(ValidateRect(dead, nullptr));
-    EXPECT_FALSE(UpdateWindow(dead));
 }
 
 }  // namespace

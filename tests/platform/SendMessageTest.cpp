@@ -45,7 +45,7 @@ class AnsweringThread {
     std::thread thread_;
 };
 
-TEST(SendMessage, CallsAWindowOfTheSameThreadDirectly) {
+TEST(SentMessage, CallsAWindowOfTheSameThreadDirectly) {
     TestWindow window;
     window.onMessage = [](UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
         result = static_cast<LRESULT>(wParam) + lParam;
@@ -57,13 +57,13 @@ TEST(SendMessage, CallsAWindowOfTheSameThreadDirectly) {
     DrainQueue();
 }
 
-TEST(SendMessage, WaitsForTheAnswerOfAnotherThread) {
+TEST(SentMessage, WaitsForTheAnswerOfAnotherThread) {
     const AnsweringThread other;
     for (WPARAM i = 0; i < 100; ++i)
         ASSERT_EQ(SendMessageW(other.Window(), WM_APP, i, 0), static_cast<LRESULT>(i) + 1);
 }
 
-TEST(SendMessage, AnswersWhileItWaits) {
+TEST(SentMessage, AnswersWhileItWaits) {
     TestWindow own;
     own.onMessage = [](UINT message, WPARAM wParam, LPARAM, LRESULT& result) {
         result = static_cast<LRESULT>(wParam) * 10;
@@ -73,7 +73,7 @@ TEST(SendMessage, AnswersWhileItWaits) {
     EXPECT_EQ(SendMessageW(other.Window(), WM_APP, 1, reinterpret_cast<LPARAM>(own.Handle())), 1002);
 }
 
-TEST(SendMessage, IsAnsweredBeforePostedMessages) {
+TEST(SentMessage, IsAnsweredBeforePostedMessages) {
     TestWindow window;
     PostMessageW(window.Handle(), WM_APP + 1, 0, 0);
     std::atomic<bool> answered{false};
@@ -91,7 +91,7 @@ TEST(SendMessage, IsAnsweredBeforePostedMessages) {
     EXPECT_EQ(DrainQueue(), std::vector<UINT>{WM_APP + 1});
 }
 
-TEST(SendMessage, GivesUpWhenTheOtherThreadEnds) {
+TEST(SentMessage, GivesUpWhenTheOtherThreadEnds) {
     std::promise<HWND> made;
     std::promise<void> mayEnd;
     std::thread other([&] {
@@ -111,7 +111,7 @@ TEST(SendMessage, GivesUpWhenTheOtherThreadEnds) {
     EXPECT_FALSE(IsWindow(window));
 }
 
-TEST(PostMessage, ReachesAnotherThreadThatWaits) {
+TEST(PostedMessage, ReachesAnotherThreadThatWaits) {
     const AnsweringThread other;
     TestWindow own;
     EXPECT_TRUE(PostMessageW(other.Window(), WM_APP, 0, reinterpret_cast<LPARAM>(own.Handle())));
@@ -122,7 +122,7 @@ TEST(PostMessage, ReachesAnotherThreadThatWaits) {
     EXPECT_EQ(own.All().front().wParam, 100u);
 }
 
-TEST(PostMessage, KeepsTheOrderOfEachOfSeveralThreads) {
+TEST(PostedMessage, KeepsTheOrderOfEachOfSeveralThreads) {
     const TestWindow window;
     constexpr WPARAM kEach = 500;
     std::vector<std::thread> posters;

@@ -103,7 +103,8 @@ KORVANE_API LONG_PTR GetWindowLongPtrW(HWND window, int index);
 KORVANE_API LONG_PTR SetWindowLongPtrW(HWND window, int index, LONG_PTR value);
 
 // A visible window has an update rectangle: the smallest one that holds all that was invalidated, within the
-// client area. WM_PAINT is generated while it is not empty. Hidden windows collect none.
+// client area. WM_PAINT is generated while it is not empty. Hidden windows collect none. The edges of a
+// rectangle count in either order.
 
 /// A null rectangle stands for the whole client area. A null window is refused (Windows would repaint the
 /// whole desktop). Any thread may call it.
