@@ -114,6 +114,10 @@ class KORVANE_API CLQBaseCtrl : public CLQWnd {
         return FireEvent(event, korvane::EventData{korvane::EventData::Kind::Index, nullptr, index});
     }
 
+    /// Marks the control and has its window repaint a rectangle of the screen, as far as the control has it:
+    /// for a change that leaves the rest as it is.
+    void InvalidatePart(const _LQRect& part);
+
     /// Reads or writes what a layout keeps of the control.
     void ExchangeLayout(korvane::LayoutArchive& archive);
 
@@ -126,9 +130,10 @@ class KORVANE_API CLQBaseCtrl : public CLQWnd {
     friend class CLQGroupCtrl;
     friend class CLQWindow;
 
-    bool FireEvent(int event, const korvane::EventData& data);
+    inline bool FireEvent(int event, const korvane::EventData& data);
     void StoreCallBack(int event, const _LQCallBack& record);
     void InvalidateArea();
+    void RequestRepaint(const _LQRect& rect);
     void LeaveOwner();
 
     CLQGroupCtrl* m_pOwnerGroup = nullptr;
