@@ -137,3 +137,22 @@ function(korvane_add_device_files target)
   endforeach()
   add_custom_target(${target} ALL DEPENDS ${copies})
 endfunction()
+
+# korvane_add_medium(<target> FOLDER <folder below the device root> LIST <file>)
+#
+# Adds a target that makes the files and folders of a medium, as cmake/FillMedium.cmake reads them from the list.
+# What else lies in the folder stays.
+function(korvane_add_medium target)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "FOLDER;LIST" "")
+  get_filename_component(list "${arg_LIST}" ABSOLUTE)
+  set(script "${PROJECT_SOURCE_DIR}/cmake/FillMedium.cmake")
+  set(stamp "${CMAKE_CURRENT_BINARY_DIR}/${target}.stamp")
+  add_custom_command(
+    OUTPUT "${stamp}"
+    COMMAND "${CMAKE_COMMAND}" -D "LIST=${list}" -D "FOLDER=${KORVANE_DEVICE_DIR}/${arg_FOLDER}" -P "${script}"
+    COMMAND "${CMAKE_COMMAND}" -E touch "${stamp}"
+    DEPENDS "${list}" "${script}"
+    COMMENT "Filling ${arg_FOLDER}"
+    VERBATIM)
+  add_custom_target(${target} ALL DEPENDS "${stamp}")
+endfunction()

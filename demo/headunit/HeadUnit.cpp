@@ -37,21 +37,27 @@ void HeadUnit::Create(int x, int y) {
 
     radio_.GetSourcesButton().AddCallBack(kEventReleased, &strip_, &TitleStrip::OpenShortcuts);
     other_.GetSourcesButton().AddCallBack(kEventReleased, &strip_, &TitleStrip::OpenShortcuts);
-    for (MenuButton* const button : {&radio_.GetMenuButton(), &other_.GetMenuButton()})
+    media_.GetSourcesButton().AddCallBack(kEventReleased, &strip_, &TitleStrip::OpenShortcuts);
+    for (MenuButton* const button :
+         {&radio_.GetMenuButton(), &media_.GetMenuButton(), &other_.GetMenuButton()})
         button->WhenTouched([this] { SlideTo(Screen::Menu); });
     radio_.WhenPresetsWanted([this] { SlideTo(Screen::Presets); });
     menu_.WhenChosen([this](MenuItem item) { OnMenu(item); });
     menu_.WhenRearranged([this] { ShowTitle(); });
     sources_.WhenChosen([this](int id) { ChooseSource(id); });
+    media_.WhenTimePasses([this](int seconds) { strip_.ShowPlayTime(seconds); });
+    files_.WhenMusicOpened([this](Tracks tracks, std::size_t first) { PlayFiles(std::move(tracks), first); });
+    files_.WhenFolderGone([this] { strip_.ShowNotice(kCaptionFolderGone); });
     strip_.WhenBack([this] { OnBack(); });
     strip_.WhenSystemChanged([this](int item) { OnSystemChanged(item); });
     ShowZone();
+    ShowStick();
     ShowScreen(Screen::Player);
     ShowSource();
 }
 
 std::vector<CLQWindow*> HeadUnit::Screens() {
-    return {&radio_, &presets_, &other_, &menu_, &sources_, &gauges_};
+    return {&radio_, &presets_, &media_, &other_, &menu_, &sources_, &gauges_, &files_};
 }
 
 void HeadUnit::OnSystemChanged(int item) {
@@ -61,6 +67,9 @@ void HeadUnit::OnSystemChanged(int item) {
             break;
         case kItemLanguage:
             ShowLanguage();
+            break;
+        case kItemUsb:
+            ShowStick();
             break;
         case kItemSource:
             ShowSource();
@@ -92,6 +101,10 @@ void HeadUnit::OnBack() {
         case Screen::Gauges:
             SlideTo(Screen::Menu);
             break;
+        case Screen::Files:
+            if (!files_.LeaveFolder())
+                SlideTo(Screen::Menu);
+            break;
     }
 }
 
@@ -110,6 +123,8 @@ void HeadUnit::OnMenu(MenuItem item) {
             SlideTo(Screen::Gauges);
             break;
         case MenuItem::Files:
+            SlideTo(Screen::Files);
+            break;
         case MenuItem::Settings:
             break;
     }
@@ -132,6 +147,11 @@ void HeadUnit::ChooseSource(int id) {
         PostMessageW(mainWindow, kMainSourceChosen, 1, id);
 }
 
+void HeadUnit::PlayFiles(Tracks tracks, std::size_t first) {
+    media_.InsertTracks(kUsbMusicSource, std::move(tracks), first);
+    ChooseSource(kUsbMusicSource);
+}
+
 /// Tells that a phone has come.
 void HeadUnit::ShowPhone() {
     const bool isThere = record_ && record_->btState != 0;
@@ -149,6 +169,10 @@ void HeadUnit::ShowZone() {
     strip_.SetSourceType(!record_ || record_->rearZone == 0);
 }
 
+void HeadUnit::ShowStick() {
+    files_.PlugIn(FindSource(kUsbMusicSource)->IsPresent(record_));
+}
+
 void HeadUnit::ShowSource() {
     const Source* const source = FindSource(record_ ? record_->source : kRadioSource);
     if (!source || source == current_)
@@ -156,15 +180,16 @@ void HeadUnit::ShowSource() {
     const bool slides = SlidesTo(*source);
     awaited_ = kNoSource;
     current_ = source;
-    if (source->hasPlayTime) {
+    if (PlaysMedium()) {
         lastMedium_ = source->id;
-        strip_.StartPlayTime();
+        media_.PlaySource(*source);
     } else {
-        strip_.StopPlayTime();
+        media_.Rest();
+        strip_.EnablePlayTime(false);
     }
     sources_.ShowSource(*source);
     menu_.MarkPlaying(MenuItem::Radio, PlaysRadio());
-    menu_.MarkPlaying(MenuItem::Media, source->hasPlayTime);
+    menu_.MarkPlaying(MenuItem::Media, PlaysMedium());
     if (slides)
         SlideTo(Screen::Player);
     else
@@ -178,7 +203,7 @@ bool HeadUnit::SlidesTo(const Source& source) const {
         return false;
     if (screen_ != Screen::Player)
         return source.id == awaited_;
-    const bool isSameScreen = PlaysRadio() && source.screen == SourceScreenKind::Radio;
+    const bool isSameScreen = current_->screen == source.screen && source.screen != SourceScreenKind::Other;
     return !isSameScreen;
 }
 
@@ -235,16 +260,24 @@ CLQWindow& HeadUnit::ShownWindow() {
             return sources_;
         case Screen::Gauges:
             return gauges_;
+        case Screen::Files:
+            return files_;
         case Screen::Player:
             break;
     }
     if (PlaysRadio())
         return radio_;
+    if (PlaysMedium())
+        return media_;
     return other_;
 }
 
 bool HeadUnit::PlaysRadio() const {
     return !current_ || current_->screen == SourceScreenKind::Radio;
+}
+
+bool HeadUnit::PlaysMedium() const {
+    return current_ && current_->screen == SourceScreenKind::Media;
 }
 
 void HeadUnit::ShowTitle() {
@@ -267,6 +300,8 @@ int HeadUnit::Title() const {
             return kCaptionSources;
         case Screen::Gauges:
             return kCaptionGauges;
+        case Screen::Files:
+            return kCaptionFiles;
     }
     return kCaptionTuner;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include "KorvaneEx.h"
@@ -7,7 +8,9 @@
 #include "demo/headunit/Source.h"
 #include "demo/headunit/SourceScreen.h"
 #include "demo/headunit/TitleStrip.h"
+#include "demo/headunit/files/FilesScreen.h"
 #include "demo/headunit/gauges/GaugesScreen.h"
+#include "demo/headunit/media/MediaScreen.h"
 #include "demo/headunit/menu/MenuScreen.h"
 #include "demo/headunit/radio/PresetsScreen.h"
 #include "demo/headunit/radio/RadioScreen.h"
@@ -34,17 +37,19 @@ class HeadUnit {
 
   private:
     /// In their order from what plays inwards.
-    enum class Screen { Player, Presets, Menu, Sources, Gauges };
+    enum class Screen { Player, Presets, Menu, Sources, Gauges, Files };
 
     std::vector<CLQWindow*> Screens();
     void OnSystemChanged(int item);
     void OnBack();
     void OnMenu(MenuItem item);
     void ChooseSource(int id);
+    void PlayFiles(Tracks tracks, std::size_t first);
 
     void ShowPhone();
     void ShowLanguage();
     void ShowZone();
+    void ShowStick();
     void ShowSource();
     bool SlidesTo(const Source& source) const;
     void ShowScreen(Screen screen);
@@ -53,6 +58,7 @@ class HeadUnit {
     void SwitchWindows();
     CLQWindow& ShownWindow();
     bool PlaysRadio() const;
+    bool PlaysMedium() const;
     void ShowTitle();
     int Title() const;
 
@@ -71,10 +77,12 @@ class HeadUnit {
     Tuner tuner_;
     RadioScreen radio_{tuner_};
     PresetsScreen presets_{tuner_};
+    MediaScreen media_;
     SourceScreen other_;
     MenuScreen menu_;
     SourcesScreen sources_;
     GaugesScreen gauges_;
+    FilesScreen files_;
     TitleStrip strip_;
 };
 

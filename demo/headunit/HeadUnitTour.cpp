@@ -30,6 +30,20 @@ constexpr unsigned kLongPressMs = 2000;
 constexpr int kDriveX = 630;
 constexpr int kDriveY = 424;
 
+/// The buttons of the media screen from the left, in the upper row and the lower one.
+constexpr int MediaX(int column) {
+    return 250 + 150 * column;
+}
+constexpr int kTransportY = 310;
+constexpr int kRepeatY = 406;
+constexpr int kProgressY = 202;
+constexpr int kMediaSourcesX = 712;
+constexpr int kMediaSourcesY = 396;
+
+constexpr int kFilesX = 400;
+constexpr int kFilesY = 234;
+constexpr int kFilesDownY = 445;
+
 constexpr int kListX = 180;
 /// The cells of the list of sources, from the top.
 constexpr int ListCellY(int cell) {
@@ -119,7 +133,7 @@ void ShowSources(TourScript& tour) {
     tour.Press(kSourcesX, kSourcesY).Picture("sources-pressed").Release(kSourcesX, kSourcesY);
     tour.Picture("shortcuts").Press(kShortcut2X, kShortcutY).Picture("shortcuts-disc-pressed");
     tour.Release(kShortcut2X, kShortcutY).Picture("disc").Wait(kMinuteMs + 5000).Picture("disc-plays");
-    tour.Set(L"discAudioPresent", 0).Touch(kSourcesX, kSourcesY).Picture("shortcuts-no-disc");
+    tour.Set(L"discAudioPresent", 0).Touch(kMediaSourcesX, kMediaSourcesY).Picture("shortcuts-no-disc");
     tour.Press(kPanelBackX, kPanelBackY).Picture("shortcuts-back-pressed").Release(kPanelBackX, kPanelBackY);
     tour.Press(kBackX, kStripY).Picture("back-pressed").Release(kBackX, kStripY).Picture("radio-again");
     tour.Press(kGuideX, kStripY).Picture("guide-pressed").Release(kGuideX, kStripY).Picture("navigation");
@@ -157,6 +171,50 @@ void ShowSourceList(TourScript& tour) {
     tour.Touch(kListX, ListCellY(0)).Picture("radio-from-the-list");
 }
 
+void ShowMedia(TourScript& tour) {
+    tour.Set(L"discAudioPresent", 1).Set(L"source", 4).Wait(30000);
+    tour.Press(MediaX(0), kRepeatY)
+        .Picture("media-a-pressed")
+        .Release(MediaX(0), kRepeatY)
+        .Picture("media-a");
+    tour.Wait(60000).Touch(MediaX(1), kRepeatY).Picture("media-a-to-b").Wait(40000).Picture("media-repeats");
+    tour.Press(300, kProgressY).Move(500, kProgressY).Picture("media-seeks").Release(500, kProgressY);
+    tour.Touch(MediaX(2), kRepeatY).Picture("media-repeat-cancelled");
+    tour.Touch(MediaX(1), kTransportY).Wait(5000).Picture("media-paused").Touch(MediaX(1), kTransportY);
+    tour.Touch(MediaX(0), kTransportY).Touch(MediaX(0), kTransportY).Wait(4000).Picture("media-long-title");
+    tour.Set(L"source", 6).Touch(MediaX(2), kTransportY).Wait(12000).Picture("media-stick");
+    tour.Set(L"source", 5).Set(L"language", 11).Wait(3900000).Picture("media-film-greek").Set(L"language", 0);
+}
+
+void OpenEntry(TourScript& tour) {
+    tour.Press(220, kFilesY).Release(340, kFilesY);
+}
+
+void StepDown(TourScript& tour) {
+    tour.Touch(kFilesX, kFilesDownY);
+}
+
+void ShowFiles(TourScript& tour) {
+    tour.Touch(kMenuX, kMenuY).Touch(TileX(1), kLowerTileY).Picture("files");
+    StepDown(tour);
+    tour.Picture("files-down");
+    tour.Press(kFilesX, 280).Release(kFilesX, 200).Picture("files-swiped-up");
+    tour.Press(kFilesX, 200).Release(kFilesX, 280).Picture("files-swiped-down");
+    OpenEntry(tour);
+    tour.Picture("files-opened");
+    OpenEntry(tour);
+    tour.Picture("files-songs");
+    OpenEntry(tour);
+    tour.Picture("files-plays").Touch(kMenuX, kMenuY).Touch(TileX(1), kLowerTileY).Picture("files-again");
+    tour.Touch(kBackX, kStripY).Picture("files-left").Touch(kBackX, kStripY).Picture("files-left-again");
+    for (int step = 0; step < 3; ++step) {
+        StepDown(tour);
+        tour.Picture("files-step");
+    }
+    tour.Set(L"language", 5).Picture("files-german").Set(L"usbPresent", 0).Picture("files-no-stick");
+    tour.Set(L"usbPresent", 1).Set(L"language", 0).Touch(kBackX, kStripY).Touch(kBackX, kStripY);
+}
+
 }  // namespace
 
 TourScript HeadUnitTour() {
@@ -168,6 +226,8 @@ TourScript HeadUnitTour() {
     ShowMenu(tour);
     ShowGauges(tour);
     ShowSourceList(tour);
+    ShowMedia(tour);
+    ShowFiles(tour);
     return tour;
 }
 

@@ -15,7 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const wchar_t* kSharedFolders[] = {L"\\NandFlash\\Application\\Bin",
-                                             L"\\NandFlash\\Application\\Resource"};
+                                             L"\\NandFlash\\Application\\Resource", L"\\USB"};
 constexpr const wchar_t* kFactorySettings[] = {L"\\NandFlash\\Application\\Profile\\LQ_SysSettings.ini",
                                                L"\\NandFlash\\Application\\Profile\\LQ_ShortcutConfig.ini"};
 
@@ -36,10 +36,10 @@ fs::path HostPath(const wchar_t* devicePath) {
     return fs::absolute(fs::u8path(ToHostPath(devicePath)));
 }
 
-/// A link where the file system has links, else a copy.
+/// A link where the file system has links, else a copy. A medium that is plugged in is on every device.
 void Share(const fs::path& from, const fs::path& to) {
     std::error_code error;
-    if (!fs::exists(from, error))
+    if (from == to || !fs::exists(from, error))
         return;
     fs::create_directories(to.parent_path(), error);
     fs::create_directory_symlink(from, to, error);

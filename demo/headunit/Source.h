@@ -8,7 +8,7 @@ namespace korvane::demo {
 constexpr int kRadioSource = 0;
 constexpr int kUsbMusicSource = 6;
 
-enum class SourceScreenKind { Radio, Other };
+enum class SourceScreenKind { Radio, Media, Other };
 
 /// A source as the head unit shows it.
 struct Source {
@@ -17,7 +17,6 @@ struct Source {
     int hint;     ///< what there is to say about it, likewise
     const wchar_t* picture;
     SourceScreenKind screen;
-    bool hasPlayTime;
     /// The field of the system record that tells whether its device is there; null for one that always is.
     const unsigned char _LQSysInfo::*presence;
 

@@ -1,15 +1,12 @@
 #include "demo/headunit/TitleStrip.h"
 
-#include <cwchar>
-#include <iterator>
-
 #include "demo/headunit/ShortcutCaptions.h"
+#include "demo/headunit/media/PlayTimeText.h"
 
 namespace korvane::demo {
 
 namespace {
 
-constexpr int kSecondMs = 1000;
 constexpr int kNoticeMs = 3000;
 /// The title comes back a moment after the strip has cleared the notice.
 constexpr int kTitleReturnsMs = kNoticeMs + 200;
@@ -24,8 +21,6 @@ bool TitleStrip::OnInit() {
     });
     noticeTimer_.SetTimer(kTitleReturnsMs);
     noticeTimer_.SetCallBack(this, &TitleStrip::OnNoticeGone);
-    secondTimer_.SetTimer(kSecondMs);
-    secondTimer_.SetCallBack(this, &TitleStrip::OnSecond);
     return result;
 }
 
@@ -89,23 +84,10 @@ void TitleStrip::ShowShortcuts(bool show) {
     }
 }
 
-void TitleStrip::StartPlayTime() {
-    playStartMs_ = GetCurrentMS();
-    OnSecond(nullptr, 0);
-    EnablePlayTime(true);
-    secondTimer_.StartTimer();
-}
-
-void TitleStrip::StopPlayTime() {
-    secondTimer_.StopTimer();
-    EnablePlayTime(false);
-}
-
-void TitleStrip::OnSecond(void*, int) {
-    const unsigned seconds = (GetCurrentMS() - playStartMs_) / unsigned{kSecondMs};
-    wchar_t text[16] = L"";
-    std::swprintf(text, std::size(text), L"%u:%02u", seconds / 60, seconds % 60);
-    SetPlayTime(text, false);
+void TitleStrip::ShowPlayTime(int seconds) {
+    SetPlayTime(PlayTimeText(seconds).c_str(), false);
+    if (!IsPlayTimeShow())
+        EnablePlayTime(true);
 }
 
 }  // namespace korvane::demo

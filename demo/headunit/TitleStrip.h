@@ -29,21 +29,17 @@ class TitleStrip : public CLQTitleDialog {
     void CloseShortcuts();
     bool ShowsShortcuts();
 
-    /// Shows, from 0:00 on, how long a medium has been playing.
-    void StartPlayTime();
-    void StopPlayTime();
+    /// Shows how much of a track has been played, until `EnablePlayTime(false)`.
+    void ShowPlayTime(int seconds);
 
   private:
     void OnNoticeGone(void*, int);
-    void OnSecond(void*, int);
     void ShowShortcuts(bool show);
 
     std::function<void()> onBack_;
     std::function<void(int item)> onSystemChanged_;
     int title_ = 0;
     CLQTimer noticeTimer_;
-    CLQTimer secondTimer_;
-    unsigned playStartMs_ = 0;
 };
 
 }  // namespace korvane::demo

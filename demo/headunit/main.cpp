@@ -35,6 +35,7 @@ struct Options {
     std::string display = "sdl";
     korvane::tools::ScreenSize size;
     std::string deviceRoot;
+    std::string usbFolder;
     std::string tourFolder;
     std::string screenshot;
 };
@@ -63,6 +64,9 @@ std::optional<int> ReadOptions(int argc, char** argv, Options& options) {
     app.add_option("--device-root", options.deviceRoot,
                    "Folder that holds the device's files; unless given, that of the environment variable "
                    "KORVANE_DEVICE_ROOT, else the one that the build filled")
+        ->check(CLI::ExistingDirectory);
+    app.add_option("--usb", options.usbFolder,
+                   "Folder that is plugged in as the USB stick; unless given, the one in the device")
         ->check(CLI::ExistingDirectory);
     auto* tour =
         app.add_option("--tour", options.tourFolder,
@@ -172,6 +176,8 @@ int main(int argc, char** argv) {
         return *status;
     if (!options.deviceRoot.empty())
         korvane::SetDeviceRoot(options.deviceRoot);
+    if (!options.usbFolder.empty())
+        korvane::PlugMedium(L"USB", options.usbFolder);
     InitMessage();
     if (!HasImages())
         return kFailure;

@@ -15,7 +15,7 @@ constexpr unsigned kSequenceMs = 8 * kImageMs;
 
 constexpr Place kRadioTile = {141, 168};
 constexpr Place kMediaTile = {400, 168};
-constexpr Place kFilesTile = {400, 368};
+constexpr Place kSettingsTile = {659, 368};
 
 class MenuTest : public HeadUnitBench {
   protected:
@@ -124,7 +124,7 @@ TEST_F(MenuTest, DimsWhatIsNotThereAndLightsWhatIsPressed) {
 
 TEST_F(MenuTest, DoesNothingForATileThatLeadsNowhere) {
     Touch(kMenuButton);
-    Touch(kFilesTile);
+    Touch(kSettingsTile);
     EXPECT_TRUE(ShowsMenu());
 }
 

@@ -22,7 +22,7 @@ struct Entry {
 constexpr Entry kEntries[] = {
     {{L"menu_radio_%d.lqi", 8}, kCaptionRadio, true},  {{L"menu_media_%d.lqi", 8}, kCaptionMedia, true},
     {{L"menu_sources.lqi", 1}, kCaptionSources, true}, {{L"menu_gauges_%d.lqi", 8}, kCaptionGauges, true},
-    {{L"menu_files.lqi", 1}, kCaptionFiles, false},    {{L"menu_settings.lqi", 1}, kCaptionSettings, false},
+    {{L"menu_files.lqi", 1}, kCaptionFiles, true},     {{L"menu_settings.lqi", 1}, kCaptionSettings, false},
 };
 
 }  // namespace

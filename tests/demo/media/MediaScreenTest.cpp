@@ -1,0 +1,337 @@
+#include <gtest/gtest.h>
+#include <vector>
+
+#include "KorvaneEx.h"
+
+#include "tests/demo/HeadUnitBench.h"
+#include "tests/support/ReferenceImage.h"
+
+namespace korvane::demo {
+
+namespace {
+
+constexpr unsigned kSecondMs = 1000;
+constexpr int kDisc = 4;
+constexpr int kStick = 6;
+
+constexpr Place kPrevious = {250, 310};
+constexpr Place kPlay = {400, 310};
+constexpr Place kNext = {550, 310};
+constexpr Place kRepeatStart = {250, 406};
+constexpr Place kRepeatEnd = {400, 406};
+constexpr Place kRepeatCancel = {550, 406};
+constexpr Place kSources = {712, 396};
+constexpr int kTrackRow = 202;
+/// Where the thumb's middle is at a second of the disc's first track, which is 203 seconds long.
+constexpr int ThumbX(int second) {
+    return 72 + (second * 656 + 101) / 203;
+}
+
+class MediaScreenTest : public HeadUnitBench {
+  protected:
+    /// The disc's first track, at its start.
+    void PlayDisc() { Set(L"source", kDisc); }
+    void Seek(int second) { Touch({ThumbX(second), kTrackRow}); }
+    /// Both in the middle of the screen and in the strip.
+    bool ShowsTime(const wchar_t* time) { return CountLabels(time) == 2; }
+    int CountLabels(const std::wstring& text) {
+        int count = 0;
+        CLQScreen* const screen = CLQScreen::GetInstance();
+        for (int i = 0; i < screen->GetWindowCount(); ++i)
+            count += CountLabels(*screen->GetWindow(i), text);
+        return count;
+    }
+    testing::AssertionResult LooksLike(const char* name) {
+        return test::MatchesReference(CLQScreen::GetInstance()->GetScreenSurfHandle(), name);
+    }
+
+  private:
+    static int CountLabels(CLQWindow& window, const std::wstring& text) {
+        int count = 0;
+        for (int i = 0; window.IsShow() && i < window.GetChildCount(); ++i)
+            count += CountLabels(window.GetChild(i), text);
+        return count;
+    }
+    static int CountLabels(CLQBaseCtrl* ctrl, const std::wstring& text) {
+        if (!ctrl->IsOwnerShow())
+            return 0;
+        auto* const label = dynamic_cast<CLQStatic*>(ctrl);
+        int count = label && label->GetText() == text ? 1 : 0;
+        auto* const group = dynamic_cast<CLQGroupCtrl*>(ctrl);
+        for (int i = 0; group && i < group->GetChildCount(); ++i)
+            count += CountLabels(group->GetChild(i), text);
+        return count;
+    }
+};
+
+}  // namespace
+
+TEST_F(MediaScreenTest, ShowsTheTrackAndItsTime) {
+    PlayDisc();
+    EXPECT_TRUE(scene_.Shows(L"Harbour Lights at Dawn"));
+    EXPECT_TRUE(scene_.Shows(L"Track 1/5  \u00b7  The Tidewater Five"));
+    EXPECT_TRUE(scene_.Shows(L"Now playing"));
+    EXPECT_TRUE(scene_.Shows(L"3:23"));
+    EXPECT_TRUE(ShowsTime(L"0:00"));
+    scene_.Advance(61 * kSecondMs);
+    EXPECT_TRUE(ShowsTime(L"1:01"));
+    scene_.Advance((203 - 61) * kSecondMs);
+    EXPECT_TRUE(scene_.Shows(L"Elf Kilometer südwärts"));
+    EXPECT_TRUE(scene_.Shows(L"Track 2/5  \u00b7  Grete Lindqvist"));
+    EXPECT_TRUE(scene_.Shows(L"3:08"));
+    EXPECT_TRUE(ShowsTime(L"0:00"));
+}
+
+TEST_F(MediaScreenTest, SeeksWithADrag) {
+    PlayDisc();
+    scene_.Press(ThumbX(50), kTrackRow);
+    EXPECT_TRUE(ShowsTime(L"0:50"));
+    scene_.Move(ThumbX(120), kTrackRow + 100);
+    EXPECT_TRUE(ShowsTime(L"2:00"));
+    scene_.Advance(10 * kSecondMs);
+    EXPECT_TRUE(ShowsTime(L"2:00")) << "rests while the thumb is held";
+    scene_.Release(ThumbX(120), kTrackRow + 100);
+    scene_.Advance(kSecondMs);
+    EXPECT_TRUE(ShowsTime(L"2:01"));
+}
+
+TEST_F(MediaScreenTest, PlaysOnWhenAnotherSourceTakesTheThumbOutOfTheHand) {
+    PlayDisc();
+    scene_.Press(ThumbX(50), kTrackRow);
+    Set(L"source", 0);
+    Set(L"source", kDisc);
+    scene_.Advance(kSecondMs);
+    EXPECT_TRUE(ShowsTime(L"0:51"));
+    scene_.Release(ThumbX(50), kTrackRow);
+    scene_.Advance(kSecondMs);
+    EXPECT_TRUE(ShowsTime(L"0:52"));
+}
+
+TEST_F(MediaScreenTest, LosesWhatIsPressedWhenAnotherSourceComes) {
+    for (const Place& place : {kPrevious, kPlay, kNext, kRepeatStart, Place{ThumbX(50), kTrackRow}}) {
+        PlayDisc();
+        scene_.Press(place.x, place.y);
+        Set(L"source", 0);
+        scene_.Move(place.x + 50, place.y);
+        scene_.Release(place.x + 50, place.y);
+        scene_.Advance(kSecondMs);
+        EXPECT_TRUE(scene_.Shows(L"Radio"));
+    }
+    PlayDisc();
+    EXPECT_TRUE(scene_.Shows(L"Harbour Lights at Dawn"));
+    EXPECT_TRUE(ShowsTime(L"0:50"));
+}
+
+TEST_F(MediaScreenTest, SeeksOnlyWhereTheProgressBarShows) {
+    PlayDisc();
+    Touch({600, 152});
+    EXPECT_FALSE(ShowsTime(L"0:00")) << "the height of the marks belongs to it";
+    Seek(0);
+    for (const int y : {90, 149, 230, 258, 330})
+        Touch({160, y});
+    EXPECT_TRUE(ShowsTime(L"0:00"));
+}
+
+TEST_F(MediaScreenTest, JumpsBackToAWhenItReachesB) {
+    PlayDisc();
+    Seek(60);
+    Touch(kRepeatStart);
+    scene_.Advance(30 * kSecondMs);
+    EXPECT_TRUE(ShowsTime(L"1:30"));
+    Touch(kRepeatEnd);
+    EXPECT_TRUE(ShowsTime(L"1:00"));
+    EXPECT_TRUE(scene_.Shows(L"A-B repeat"));
+    for (int round = 0; round < 3; ++round) {
+        scene_.Advance(29 * kSecondMs);
+        EXPECT_TRUE(ShowsTime(L"1:29")) << round;
+        scene_.Advance(kSecondMs);
+        EXPECT_TRUE(ShowsTime(L"1:00")) << round;
+    }
+    scene_.Advance(20 * kSecondMs);
+    EXPECT_TRUE(LooksLike("demo-media-repeats"));
+    Touch(kRepeatCancel);
+    EXPECT_TRUE(scene_.Shows(L"Now playing"));
+    scene_.Advance(20 * kSecondMs);
+    EXPECT_TRUE(ShowsTime(L"1:40"));
+}
+
+TEST_F(MediaScreenTest, TakesBBeforeA) {
+    PlayDisc();
+    Seek(120);
+    Touch(kRepeatStart);
+    Seek(60);
+    Touch(kRepeatEnd);
+    scene_.Advance(59 * kSecondMs);
+    EXPECT_TRUE(ShowsTime(L"1:59"));
+    scene_.Advance(kSecondMs);
+    EXPECT_TRUE(ShowsTime(L"1:00"));
+}
+
+TEST_F(MediaScreenTest, MovesAWhileItRepeats) {
+    PlayDisc();
+    Seek(60);
+    Touch(kRepeatStart);
+    Seek(90);
+    Touch(kRepeatEnd);
+    scene_.Advance(20 * kSecondMs);
+    Touch(kRepeatStart);
+    scene_.Advance(10 * kSecondMs);
+    EXPECT_TRUE(ShowsTime(L"1:20"));
+    EXPECT_TRUE(scene_.Shows(L"A-B repeat"));
+    // Beyond B it begins a new passage.
+    Seek(150);
+    Touch(kRepeatStart);
+    EXPECT_TRUE(scene_.Shows(L"Now playing"));
+    scene_.Advance(10 * kSecondMs);
+    Touch(kRepeatEnd);
+    EXPECT_TRUE(ShowsTime(L"2:30"));
+}
+
+TEST_F(MediaScreenTest, TakesNoBAndNoCancelWithoutA) {
+    PlayDisc();
+    const std::vector<std::uint32_t> plain = scene_.Pixels();
+    Touch(kRepeatEnd);
+    Touch(kRepeatCancel);
+    EXPECT_TRUE(scene_.Pixels() == plain);
+    EXPECT_TRUE(LooksLike("demo-media-plays"));
+    Touch(kRepeatStart);
+    EXPECT_FALSE(scene_.Pixels() == plain);
+    Touch(kRepeatCancel);
+    EXPECT_TRUE(scene_.Pixels() == plain);
+}
+
+TEST_F(MediaScreenTest, DropsThePassageWithItsTrack) {
+    PlayDisc();
+    Touch(kNext);
+    const std::vector<std::uint32_t> plain = scene_.Pixels();
+    Touch(kPrevious);
+    Touch(kRepeatStart);
+    Touch(kNext);
+    EXPECT_TRUE(scene_.Pixels() == plain);
+}
+
+TEST_F(MediaScreenTest, RestsAndGoesOn) {
+    PlayDisc();
+    scene_.Advance(5 * kSecondMs);
+    const std::vector<std::uint32_t> playing = scene_.Pixels();
+    Touch(kPlay);
+    EXPECT_TRUE(scene_.Shows(L"Pause"));
+    scene_.Advance(20 * kSecondMs);
+    EXPECT_TRUE(ShowsTime(L"0:05"));
+    Touch(kPlay);
+    EXPECT_TRUE(scene_.Pixels() == playing);
+    scene_.Advance(kSecondMs);
+    EXPECT_TRUE(ShowsTime(L"0:06"));
+}
+
+TEST_F(MediaScreenTest, SeeksWhileItRests) {
+    PlayDisc();
+    Touch(kPlay);
+    Seek(203);
+    EXPECT_EQ(CountLabels(L"3:23"), 3) << "the length, too";
+    scene_.Advance(10 * kSecondMs);
+    EXPECT_TRUE(scene_.Shows(L"Harbour Lights at Dawn"));
+    Touch(kPlay);
+    scene_.Advance(kSecondMs);
+    EXPECT_TRUE(scene_.Shows(L"Elf Kilometer südwärts"));
+}
+
+TEST_F(MediaScreenTest, GoesToTheNextTrackAndBack) {
+    PlayDisc();
+    Touch(kNext);
+    Touch(kNext);
+    EXPECT_TRUE(scene_.Shows(L"Το φως του Αιγαίου"));
+    Touch(kPrevious);
+    EXPECT_TRUE(scene_.Shows(L"Elf Kilometer südwärts"));
+    Touch(kPrevious);
+    Touch(kPrevious);
+    EXPECT_TRUE(scene_.Shows(L"Track 5/5  \u00b7  Motor Choir"));
+}
+
+TEST_F(MediaScreenTest, KeepsThePlaceInEachMedium) {
+    PlayDisc();
+    Seek(60);
+    Touch(kRepeatStart);
+    Set(L"source", kStick);
+    EXPECT_TRUE(scene_.Shows(L"Night Drive"));
+    EXPECT_TRUE(ShowsTime(L"0:00"));
+    scene_.Advance(10 * kSecondMs);
+    Set(L"source", 0);
+    EXPECT_FALSE(scene_.Shows(L"0:10"));
+    scene_.Advance(100 * kSecondMs);
+    Set(L"source", kDisc);
+    EXPECT_TRUE(ShowsTime(L"1:00")) << "rests while another source plays";
+    scene_.Advance(5 * kSecondMs);
+    Touch(kRepeatEnd);
+    EXPECT_TRUE(scene_.Shows(L"A-B repeat"));
+    Set(L"source", kStick);
+    EXPECT_TRUE(ShowsTime(L"0:10"));
+}
+
+TEST_F(MediaScreenTest, PlaysOnBehindAnotherScreen) {
+    PlayDisc();
+    Touch(kMenuButton);
+    EXPECT_TRUE(scene_.Shows(L"Menu"));
+    const int before = CountLabels(L"0:30");
+    scene_.Advance(30 * kSecondMs);
+    EXPECT_EQ(CountLabels(L"0:30"), before + 1) << "in the strip";
+    Touch(kBackButton);
+    EXPECT_TRUE(ShowsTime(L"0:30"));
+}
+
+TEST_F(MediaScreenTest, OpensTheShortcutsAndTheMenu) {
+    PlayDisc();
+    Touch(kSources);
+    EXPECT_TRUE(scene_.ShowsControl(L"ShortCutBtn1"));
+}
+
+TEST_F(MediaScreenTest, SpeaksTheLanguageOfTheRecord) {
+    PlayDisc();
+    Set(L"language", 5);
+    EXPECT_TRUE(scene_.Shows(L"Titel 1/5  \u00b7  The Tidewater Five"));
+    EXPECT_TRUE(scene_.Shows(L"Aktuelle Wiedergabe"));
+    EXPECT_TRUE(scene_.Shows(L"Harbour Lights at Dawn"));
+}
+
+TEST_F(MediaScreenTest, PaintsOnceASecondAndNotWhileItRests) {
+    PlayDisc();
+    scene_.Advance(kSecondMs);
+    CLQScreen::GetInstance()->ResetCounters();
+    scene_.Advance(4 * kSecondMs);
+    EXPECT_EQ(CLQScreen::GetInstance()->GetCounters().paints, 4u);
+    Touch(kPlay);
+    CLQScreen::GetInstance()->ResetCounters();
+    scene_.Advance(4 * kSecondMs);
+    EXPECT_EQ(CLQScreen::GetInstance()->GetCounters().paints, 0u);
+}
+
+TEST(MediaScreenOnALargeScreen, HasItsMarksAndItsTrackInTheMiddle) {
+    test::DemoScene scene;
+    CLQScreen* const screen = CLQScreen::GetInstance();
+    screen->Close();
+    ASSERT_TRUE(screen->Open("memory", 1000, 700, L"large"));
+    constexpr Place kCorner = {130, 110};
+    tools::SystemService service;
+    ASSERT_TRUE(service.SetValue(L"source", kDisc));
+    HeadUnit headUnit;
+    headUnit.Create(kCorner.x, kCorner.y);
+    scene.Pump();
+    const auto touch = [&scene, kCorner](Place place) {
+        scene.Touch(kCorner.x + place.x, kCorner.y + place.y);
+    };
+    const auto mark = [&scene, kCorner](int second) {
+        return scene.PixelAt(kCorner.x + ThumbX(second) - 8 - 10, kCorner.y + 165);
+    };
+    const std::uint32_t dark = mark(60);
+    touch({ThumbX(60), kTrackRow});
+    EXPECT_TRUE(scene.Shows(L"1:00"));
+    touch(kRepeatStart);
+    EXPECT_NE(mark(60), dark);
+    const std::uint32_t darkAtTheEnd = mark(202);
+    touch({ThumbX(202), kTrackRow});
+    touch(kRepeatEnd);
+    EXPECT_NE(mark(202), darkAtTheEnd);
+    EXPECT_TRUE(scene.Shows(L"A-B repeat"));
+}
+
+}  // namespace korvane::demo
