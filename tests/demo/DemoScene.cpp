@@ -6,6 +6,7 @@
 #include "platform/SharedMemory.h"
 
 #include "tests/support/InstallService.h"
+#include "tests/support/Share.h"
 
 namespace korvane::test {
 
@@ -48,7 +49,7 @@ DemoScene::DemoScene() {
     const fs::path own = DeviceFolder() / kApplication;
     fs::remove(ImageFolder());
     for (const char* const folder : {"Image", "Layout", "Language"})
-        fs::create_directory_symlink(made / "Resource" / folder, own / "Resource" / folder);
+        ShareFolder(made / "Resource" / folder, own / "Resource" / folder);
     fs::create_directories(own / "Profile");
     for (const char* const file : {"LQ_SysSettings.ini", "LQ_ShortcutConfig.ini"})
         fs::copy_file(made / "Profile" / file, own / "Profile" / file);

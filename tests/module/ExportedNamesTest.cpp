@@ -1,6 +1,5 @@
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <random>
 #include <string>
 
 #include "module/MessageLoop.h"
@@ -12,32 +11,23 @@
 
 namespace {
 
-namespace fs = std::filesystem;
-
-/// A device on which the library lies under the name that a device gives it.
+/// A device on which the library lies at the top.
 class ExportedNames : public testing::Test {
   protected:
     ExportedNames() {
-        std::random_device random;
-        do {
-            root = fs::temp_directory_path() / ("korvane-module-" + std::to_string(random()));
-        } while (!fs::create_directory(root));
-        fs::create_symlink(fs::u8path(KORVANE_TEST_LIBRARY), root / "KorvaneEx.dll");
-        korvane::SetDeviceRoot(root.u8string());
-        library = LoadLibraryW(L"\\KorvaneEx.dll");
+        const std::filesystem::path file = std::filesystem::u8path(KORVANE_TEST_LIBRARY);
+        korvane::SetDeviceRoot(file.parent_path().u8string());
+        library = LoadLibraryW((L"\\" + file.filename().wstring()).c_str());
     }
     ~ExportedNames() override {
         FreeLibrary(library);
         korvane::SetDeviceRoot(std::string());
-        std::error_code ignored;
-        fs::remove_all(root, ignored);
     }
 
     const void* Find(const wchar_t* name) const {
         return reinterpret_cast<const void*>(GetProcAddressW(library, name));
     }
 
-    fs::path root;
     HMODULE library = nullptr;
 };
 

@@ -1,38 +1,23 @@
 #pragma once
 
-#include <cstdio>
 #include <string>
+
+#include "tests/support/Program.h"
 
 namespace korvane {
 
-/// A running windowpeer. It gets what the test says and answers; it ends, at the latest, with the object.
-class PeerProcess {
+/// A running windowpeer. It gets what the test says and answers; it ends by itself, at the latest, with the
+/// object.
+class PeerProcess : public test::Program {
   public:
-    PeerProcess();
-    ~PeerProcess();
-    PeerProcess(const PeerProcess&) = delete;
-    PeerProcess& operator=(const PeerProcess&) = delete;
+    PeerProcess() : Program({KORVANE_WINDOW_PEER}) {}
+    ~PeerProcess() { Wait(); }
 
     /// Says a command and hears the answer. Empty when the process has ended.
-    std::string Ask(const std::string& command);
-
-    void Say(const std::string& command);
-    std::string Hear();
-
-    /// Ends the process at once, without any clean-up, and waits until it is gone.
-    void Kill();
-
-    /// Waits until the process has ended by itself.
-    void AwaitEnd();
-
-    /// Takes the processor away from it, and gives it back.
-    void Freeze();
-    void Thaw();
-
-  private:
-    int process_ = -1;
-    std::FILE* input_ = nullptr;
-    std::FILE* output_ = nullptr;
+    std::string Ask(const std::string& command) {
+        Say(command);
+        return Hear();
+    }
 };
 
 }  // namespace korvane

@@ -1,11 +1,11 @@
-#include <csignal>
 #include <string>
 #include <vector>
 
+#include "platform/Unicode.h"
 #include "sysinfo/SysInfoFields.h"
 
 #include "tests/service/ServiceDevice.h"
-#include "tests/support/ForkedProcess.h"
+#include "tests/support/OtherProcess.h"
 
 namespace korvane::test {
 namespace {
@@ -110,52 +110,53 @@ TEST_F(Announcement, NeedsNobodyToListen) {
     EXPECT_EQ(getSysInfo()->mute, 1);
 }
 
+/// Opens a window of the class that the word names; its exit status is the item that it is told of first.
+const Role listenTo("Listen", [](const Role::Words& words) {
+    const std::wstring windowClass = FromUtf8(words.at(0));
+    WNDCLASSW description = {};
+    description.lpfnWndProc = &DefWindowProcW;
+    description.lpszClassName = windowClass.c_str();
+    RegisterClassW(&description);
+    const HWND window = CreateWindowExW(0, windowClass.c_str(), windowClass.c_str(), WS_POPUP, 0, 0, 10, 10,
+                                        nullptr, nullptr, nullptr, nullptr);
+    if (!window)
+        return 255;
+    TellTest("listening");
+    MSG msg = {};
+    while (GetMessageW(&msg, window, 0, 0) > 0) {
+        if (msg.message == kSysInfoChanged)
+            return static_cast<int>(msg.wParam);
+    }
+    return 254;
+});
+
 /// A device on which the windows are those of other processes.
 class AnnouncementElsewhere : public ServiceDevice {
   protected:
-    /// Opens a window of the class and returns, as its exit code, the item that it is told of first.
-    static int Listen(const wchar_t* windowClass, const Gate& listening) {
-        WNDCLASSW description = {};
-        description.lpfnWndProc = &DefWindowProcW;
-        description.lpszClassName = windowClass;
-        RegisterClassW(&description);
-        const HWND window = CreateWindowExW(0, windowClass, windowClass, WS_POPUP, 0, 0, 10, 10, nullptr,
-                                            nullptr, nullptr, nullptr);
-        if (!window)
-            return 255;
-        listening.Open();
-        MSG msg = {};
-        while (GetMessageW(&msg, window, 0, 0) > 0) {
-            if (msg.message == kSysInfoChanged)
-                return static_cast<int>(msg.wParam);
+    struct Listener : OtherProcess {
+        explicit Listener(const char* windowClass) : OtherProcess(listenTo, {windowClass}) {
+            EXPECT_EQ(Hear(), "listening");
         }
-        return 254;
-    }
+    };
 };
 
 TEST_F(AnnouncementElsewhere, ReachesScreensAndTheMainApplicationInTheirProcesses) {
-    const Gate listening;
-    ForkedProcess screen([&listening] { return Listen(L"KorvaneScreen", listening); });
-    ForkedProcess second([&listening] { return Listen(L"KorvaneScreen", listening); });
-    ForkedProcess main([&listening] { return Listen(L"NavigRecive", listening); });
-    ForkedProcess other([&listening] { return Listen(L"Other", listening); });
-    for (int i = 0; i < 4; ++i)
-        ASSERT_TRUE(listening.Wait());
+    Listener screen("KorvaneScreen");
+    Listener second("KorvaneScreen");
+    Listener main("NavigRecive");
+    Listener other("Other");
     EXPECT_EQ(setSetupValue(L"taActive", 1), 1);
     EXPECT_EQ(screen.Wait(), 15);
     EXPECT_EQ(second.Wait(), 15);
     EXPECT_EQ(main.Wait(), 15);
     other.Kill();
-    EXPECT_EQ(other.Wait(), -SIGKILL) << "it was told nothing";
+    EXPECT_EQ(other.Wait(), OtherProcess::kKilled) << "it was told nothing";
 }
 
 TEST_F(AnnouncementElsewhere, IsNotHeldUpByAProcessThatWasKilled) {
-    const Gate listening;
-    ForkedProcess dead([&listening] { return Listen(L"KorvaneScreen", listening); });
-    ASSERT_TRUE(listening.Wait());
+    Listener dead("KorvaneScreen");
     dead.Kill();
-    ForkedProcess screen([&listening] { return Listen(L"KorvaneScreen", listening); });
-    ASSERT_TRUE(listening.Wait());
+    Listener screen("KorvaneScreen");
     EXPECT_EQ(setSetupValue(L"mute", 1), 1);
     EXPECT_EQ(screen.Wait(), 5);
 }

@@ -3,14 +3,55 @@
 #include <string>
 #include <vector>
 
-#include "platform/DeviceKey.h"
+#include "platform/SharedMemory.h"
+#include "platform/Unicode.h"
 #include "sysinfo/SysInfoFields.h"
 
 #include "tests/service/ServiceDevice.h"
-#include "tests/support/ForkedProcess.h"
+#include "tests/support/OtherProcess.h"
 
 namespace korvane::test {
 namespace {
+
+/// Sets the field that the first word names to the second; its exit status is what the service says.
+const Role setField("SetField", [](const Role::Words& words) {
+    return LoadedService().setSetupValue(FromUtf8(words.at(0)).c_str(), std::stoi(words.at(1)));
+});
+
+/// Its exit status is the value of the field that the word names.
+const Role getField("GetField", [](const Role::Words& words) {
+    return LoadedService().getSetupValue(FromUtf8(words.at(0)).c_str(), 254);
+});
+
+/// Has the record until the test ends it.
+const Role keepRecord("KeepRecord", [](const Role::Words&) {
+    TellTest(LoadedService().getSysInfo() ? "on" : "failed");
+    AwaitTest();
+    return 0;
+});
+
+/// Sets the field of the word's number to the language that it finds, plus the number.
+const Role setFromLanguage("SetFromLanguage", [](const Role::Words& words) {
+    const LoadedService service;
+    const int number = std::stoi(words.at(0));
+    TellTest("ready");
+    AwaitTest();
+    const int value = service.getSysInfo()->language + number;
+    TellTest(service.setSetupValue(kSysInfoFields[number].name, value) == 1 ? "set" : "failed");
+    AwaitTest();
+    return 0;
+});
+
+const Role setForEver("SetForEver", [](const Role::Words&) {
+    const LoadedService service;
+    TellTest("setting");
+    for (int i = 0;; ++i) {
+        service.setSetupValue(L"mute", i % 2);
+        service.setSetupValue(L"afState", i % 3);
+        service.setSetupValue(L"language", 4 + i % 2);
+    }
+    return 0;
+});
 
 class Record : public ServiceDevice {
   protected:
@@ -20,15 +61,16 @@ class Record : public ServiceDevice {
 
     /// Sets a field in another process; its exit code tells whether that succeeded.
     bool SetElsewhere(const wchar_t* name, int value) const {
-        ForkedProcess process([&] { return setSetupValue(name, value); });
-        return process.Wait() == 1;
+        return OtherProcess(setField, {ToUtf8(name), std::to_string(value)}).Wait() == 1;
     }
 
     /// The field's value as a process finds it that starts then.
-    int ValueElsewhere(const wchar_t* name) const {
-        ForkedProcess process([&] { return getSetupValue(name, 254); });
-        return process.Wait();
-    }
+    int ValueElsewhere(const wchar_t* name) const { return OtherProcess(getField, {ToUtf8(name)}).Wait(); }
+
+    /// A process that is there as long as the device runs, and has the record.
+    struct Running : OtherProcess {
+        Running() : OtherProcess(keepRecord) { EXPECT_EQ(Hear(), "on"); }
+    };
 };
 
 TEST_F(Record, OfANewDeviceIsZero) {
@@ -62,7 +104,10 @@ TEST_F(Record, IsTheSameInAllProcesses) {
 }
 
 TEST_F(Record, OutlivesTheProcessThatMadeIt) {
+    auto maker = std::make_unique<Running>();
+    const Running other;
     EXPECT_TRUE(SetElsewhere(L"gps", 3));
+    maker.reset();
     EXPECT_EQ(getSysInfo()->gps, 3);
 }
 
@@ -104,10 +149,12 @@ TEST_F(Record, FieldsHaveNoText) {
 }
 
 TEST_F(Record, KeepsLanguageAndClockAcrossRestarts) {
+    auto running = std::make_unique<Running>();
     EXPECT_TRUE(SetElsewhere(L"language", 5));
     EXPECT_TRUE(SetElsewhere(L"clock24h", 1));
     EXPECT_TRUE(SetElsewhere(L"mute", 1));
     EXPECT_EQ(ValueElsewhere(L"mute"), 1);
+    running.reset();
     Restart();
     EXPECT_EQ(ValueElsewhere(L"language"), 5);
     EXPECT_EQ(ValueElsewhere(L"clock24h"), 1);
@@ -137,20 +184,15 @@ TEST_F(Record, DoesNotChangeWhenALastingFieldCannotBeKept) {
 TEST_F(Record, IsAgreedOnByManyProcessesThatStartAtOnce) {
     constexpr int kProcesses = 20;
     WriteSetupFile("[Setup]\r\nlanguage = 9\r\n");
-    const Gate start;
-    const Gate written;
-    std::vector<std::unique_ptr<ForkedProcess>> processes;
-    for (int i = 0; i < kProcesses; ++i) {
-        processes.push_back(std::make_unique<ForkedProcess>([&, i] {
-            if (!start.Wait())
-                return 1;
-            const bool set = setSetupValue(kSysInfoFields[i].name, getSysInfo()->language + i) == 1;
-            return set ? 0 : 2;
-        }));
-    }
-    start.Open(kProcesses);
+    std::vector<std::unique_ptr<OtherProcess>> processes;
+    for (int i = 0; i < kProcesses; ++i)
+        processes.push_back(std::make_unique<OtherProcess>(setFromLanguage, Role::Words{std::to_string(i)}));
     for (const auto& process : processes)
-        EXPECT_EQ(process->Wait(), 0);
+        ASSERT_EQ(process->Hear(), "ready");
+    for (const auto& process : processes)
+        process->Say("go");
+    for (const auto& process : processes)
+        EXPECT_EQ(process->Hear(), "set");
     for (int i = 0; i < kProcesses; ++i) {
         const SysInfoField& field = kSysInfoFields[i];
         // A process that came after the language's writer saw that value.
@@ -160,11 +202,7 @@ TEST_F(Record, IsAgreedOnByManyProcessesThatStartAtOnce) {
 }
 
 TEST_F(Record, IsNoneWhereItsMemoryIsNone) {
-    const std::string object = "/dev/shm/korvane-" + DeviceKey() + "-memory-sysinfo";
-    FILE* const file = std::fopen(object.c_str(), "w");
-    ASSERT_NE(file, nullptr);
-    std::fputs("something else", file);
-    std::fclose(file);
+    ASSERT_NE(MapSharedMemory(L"sysinfo", 1, nullptr), nullptr) << "too short for the record";
     EXPECT_EQ(getSysInfo(), nullptr);
     EXPECT_EQ(getSetupValue(L"mute", 77), 77);
     EXPECT_EQ(setSetupValue(L"mute", 1), 0);
@@ -177,17 +215,8 @@ TEST_F(Record, GoesOnWhenItsWritersAreKilledAtAnyMoment) {
     const _LQSysInfo* const record = getSysInfo();
     ASSERT_EQ(setSetupValue(L"guideAvail", 33), 1);
     for (int round = 0; round < 30; ++round) {
-        const Gate started;
-        ForkedProcess writer([&] {
-            started.Open();
-            for (int i = 0;; ++i) {
-                setSetupValue(L"mute", i % 2);
-                setSetupValue(L"afState", i % 3);
-                setSetupValue(L"language", 4 + i % 2);
-            }
-            return 0;
-        });
-        ASSERT_TRUE(started.Wait());
+        OtherProcess writer(setForEver);
+        ASSERT_EQ(writer.Hear(), "setting");
         for (int i = 0; i < 100 + 50 * round; ++i) {
             ASSERT_LE(record->mute, 1);
             ASSERT_LE(record->afState, 2);

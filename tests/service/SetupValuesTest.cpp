@@ -7,15 +7,50 @@
 #include <string>
 #include <vector>
 
-#include "platform/InterprocessLock.h"
+#include "platform/Unicode.h"
 
 #include "tests/service/ServiceDevice.h"
-#include "tests/support/ForkedProcess.h"
+#include "tests/support/OtherProcess.h"
 
 namespace korvane::test {
 namespace {
 
 class SetupValues : public ServiceDevice {};
+
+constexpr int kValuesOfEach = 25;
+
+std::wstring NameOf(int writer, int value) {
+    return std::to_wstring(writer) + L" of " + std::to_wstring(value);
+}
+
+/// Its exit status says whether the volume is the number that the word gives.
+const Role findNumber("FindNumber", [](const Role::Words& words) {
+    return LoadedService().getSetupValue(L"volume", 7) == std::stoi(words.at(0)) ? 0 : 1;
+});
+
+/// Its exit status says whether the station is the word.
+const Role findText("FindText", [](const Role::Words& words) {
+    return LoadedService().Text(L"station") == FromUtf8(words.at(0)) ? 0 : 1;
+});
+
+/// Sets the values of the writer that the word names.
+const Role setMany("SetMany", [](const Role::Words& words) {
+    const LoadedService service;
+    const int writer = std::stoi(words.at(0));
+    for (int value = 0; value < kValuesOfEach; ++value) {
+        if (service.setSetupValue(NameOf(writer, value).c_str(), writer * 1000 + value) != 1)
+            return 1;
+    }
+    return 0;
+});
+
+const Role setTexts("SetTexts", [](const Role::Words&) {
+    const LoadedService service;
+    TellTest("setting");
+    for (std::size_t i = 0;; ++i)
+        service.setSetupValueStr(L"text", std::wstring(i % 500, L'x').c_str());
+    return 0;
+});
 
 TEST_F(SetupValues, AreTheFallbackUntilTheyAreSet) {
     EXPECT_EQ(getSetupValue(L"volume", 12), 12);
@@ -29,8 +64,7 @@ TEST_F(SetupValues, KeepNumbersAcrossRestarts) {
         EXPECT_EQ(setSetupValue(L"volume", value), 1);
         EXPECT_EQ(getSetupValue(L"volume", 7), value);
         Restart();
-        ForkedProcess next([&] { return getSetupValue(L"volume", 7) == value ? 0 : 1; });
-        EXPECT_EQ(next.Wait(), 0) << value;
+        EXPECT_EQ(OtherProcess(findNumber, {std::to_string(value)}).Wait(), 0) << value;
     }
 }
 
@@ -41,8 +75,7 @@ TEST_F(SetupValues, KeepTextsAcrossRestarts) {
         EXPECT_EQ(setSetupValueStr(L"station", text), 1);
         EXPECT_EQ(Text(L"station"), text);
         Restart();
-        ForkedProcess next([&] { return Text(L"station") == text ? 0 : 1; });
-        EXPECT_EQ(next.Wait(), 0);
+        EXPECT_EQ(OtherProcess(findText, {ToUtf8(text)}).Wait(), 0) << ToUtf8(text);
     }
 }
 
@@ -174,39 +207,22 @@ TEST_F(SetupValues, AreReadFromWhatIsLeftOfADamagedFile) {
 
 TEST_F(SetupValues, OfManyWritersAtOnceAreAllKept) {
     constexpr int kProcesses = 6;
-    constexpr int kValues = 25;
-    std::vector<std::unique_ptr<ForkedProcess>> processes;
-    for (int i = 0; i < kProcesses; ++i) {
-        processes.push_back(std::make_unique<ForkedProcess>([this, i] {
-            for (int value = 0; value < kValues; ++value) {
-                const std::wstring name = std::to_wstring(i) + L" of " + std::to_wstring(value);
-                if (setSetupValue(name.c_str(), i * 1000 + value) != 1)
-                    return 1;
-            }
-            return 0;
-        }));
-    }
+    std::vector<std::unique_ptr<OtherProcess>> processes;
+    for (int i = 0; i < kProcesses; ++i)
+        processes.push_back(std::make_unique<OtherProcess>(setMany, Role::Words{std::to_string(i)}));
     for (const auto& process : processes)
         EXPECT_EQ(process->Wait(), 0);
     for (int i = 0; i < kProcesses; ++i) {
-        for (int value = 0; value < kValues; ++value) {
-            const std::wstring name = std::to_wstring(i) + L" of " + std::to_wstring(value);
-            EXPECT_EQ(getSetupValue(name.c_str(), -1), i * 1000 + value);
-        }
+        for (int value = 0; value < kValuesOfEach; ++value)
+            EXPECT_EQ(getSetupValue(NameOf(i, value).c_str(), -1), i * 1000 + value);
     }
 }
 
 TEST_F(SetupValues, AreWholeWhenTheirWriterIsKilled) {
     ASSERT_EQ(setSetupValueStr(L"kept", L"since the start"), 1);
     for (int round = 0; round < 20; ++round) {
-        const Gate started;
-        ForkedProcess writer([&] {
-            started.Open();
-            for (int i = 0;; ++i)
-                setSetupValueStr(L"text", std::wstring(static_cast<std::size_t>(i % 500), L'x').c_str());
-            return 0;
-        });
-        ASSERT_TRUE(started.Wait());
+        OtherProcess writer(setTexts);
+        ASSERT_EQ(writer.Hear(), "setting");
         for (int i = 0; i < 5 + round; ++i) {
             ASSERT_EQ(Text(L"kept"), L"since the start");
             wchar_t text[600] = L"";

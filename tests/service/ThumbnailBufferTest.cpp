@@ -1,7 +1,7 @@
 #include <cstring>
 
 #include "tests/service/ServiceDevice.h"
-#include "tests/support/ForkedProcess.h"
+#include "tests/support/OtherProcess.h"
 
 namespace korvane::test {
 namespace {
@@ -10,6 +10,15 @@ constexpr unsigned int kPicture = 32 + 240 * 144 * 4;
 constexpr unsigned int kCapacity = 160 * 1024;
 
 class ThumbnailBuffer : public ServiceDevice {};
+
+const Role fillBuffer("FillBuffer", [](const Role::Words&) {
+    const LoadedService service;
+    unsigned char* buffer = nullptr;
+    if (service.getThumbNail(kCapacity, &buffer) != 1)
+        return 1;
+    std::memset(buffer, 0x5A, kCapacity);
+    return 0;
+});
 
 TEST_F(ThumbnailBuffer, StartsZeroedAndHasRoomForAPicture) {
     unsigned char* buffer = nullptr;
@@ -20,16 +29,9 @@ TEST_F(ThumbnailBuffer, StartsZeroedAndHasRoomForAPicture) {
 }
 
 TEST_F(ThumbnailBuffer, IsTheSameInAllProcesses) {
-    ForkedProcess writer([this] {
-        unsigned char* buffer = nullptr;
-        if (getThumbNail(kCapacity, &buffer) != 1)
-            return 1;
-        std::memset(buffer, 0x5A, kCapacity);
-        return 0;
-    });
-    ASSERT_EQ(writer.Wait(), 0);
     unsigned char* buffer = nullptr;
     ASSERT_EQ(getThumbNail(kPicture, &buffer), 1);
+    ASSERT_EQ(OtherProcess(fillBuffer).Wait(), 0);
     EXPECT_EQ(buffer[0], 0x5A);
     EXPECT_EQ(buffer[kCapacity - 1], 0x5A);
 }

@@ -1,5 +1,7 @@
 #include "tests/support/InstallService.h"
 
+#include "tests/support/Share.h"
+
 namespace korvane::test {
 
 namespace fs = std::filesystem;
@@ -12,7 +14,7 @@ void InstallService(const fs::path& deviceFolder, const fs::path& library) {
     const fs::path folder = deviceFolder / "NandFlash" / "Application" / "Bin";
     fs::create_directories(folder);
     fs::remove(folder / "LQ_ShareMem.dll");
-    fs::create_symlink(library, folder / "LQ_ShareMem.dll");
+    ShareFile(library, folder / "LQ_ShareMem.dll");
 }
 
 }  // namespace korvane::test

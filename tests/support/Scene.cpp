@@ -8,6 +8,8 @@
 #include "platform/SharedMemory.h"
 #include "platform/Simulation.h"
 
+#include "tests/support/Share.h"
+
 namespace korvane::test {
 
 namespace fs = std::filesystem;
@@ -29,9 +31,8 @@ constexpr char kResource[] = "NandFlash/Application/Resource";
 
 Scene::Scene(int width, int height) : root_(MakeScratchFolder()) {
     fs::create_directories(ImageFolder());
-    const fs::path fonts = fs::path(KORVANE_TEST_DEVICE_DIR) / kResource / "Font";
-    fs::create_directory_symlink(fonts, root_ / kResource / "Font");
-    SetDeviceRoot(root_.string());
+    ShareFolder(fs::path(KORVANE_TEST_DEVICE_DIR) / kResource / "Font", root_ / kResource / "Font");
+    SetDeviceRoot(root_.u8string());
 
     SYSTEMTIME time = {};
     time.wYear = 2024;
@@ -49,7 +50,7 @@ Scene::Scene(int width, int height) : root_(MakeScratchFolder()) {
 Scene::~Scene() {
     CLQScreen::GetInstance()->Close();
     UseSystemClock();
-    SetDeviceRoot(root_.string());
+    SetDeviceRoot(root_.u8string());
     RemoveSharedMemory();
     // A test without a scene may be the first one that needs a font.
     SetDeviceRoot({});

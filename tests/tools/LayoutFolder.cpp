@@ -1,6 +1,7 @@
 #include "tests/tools/LayoutFolder.h"
 
 #include "tests/support/Scene.h"
+#include "tests/support/Share.h"
 #include "tools/png/SurfacePicture.h"
 
 namespace korvane::test {
@@ -16,7 +17,7 @@ void LayoutFolder::SetUp() {
     ProgramFolder::SetUp();
     for (const std::string folder : {"Image", "Language"})
         std::filesystem::create_directories(At(kResource + folder));
-    std::filesystem::create_directory_symlink(KORVANE_TEST_FONT_DIR, At(kResource + std::string("Font")));
+    ShareFolder(KORVANE_TEST_FONT_DIR, At(kResource + std::string("Font")));
 }
 
 void LayoutFolder::WriteImage(const std::string& name, int width, int height, unsigned color) const {

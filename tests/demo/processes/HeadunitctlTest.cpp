@@ -167,7 +167,7 @@ TEST_F(Headunitctl, ShowsInTheStripWhatItSets) {
 
 TEST_F(Headunitctl, SaysThatAHeadUnitThatHangsDoesNotAnswer) {
     const auto headUnit = StartHeadUnit();
-    headUnit->Stop();
+    headUnit->Freeze();
     for (const std::vector<std::string>& command :
          {std::vector<std::string>{"press", "1", "1"},
           std::vector<std::string>{"screenshot", HostPath(L"\\none.png")}}) {

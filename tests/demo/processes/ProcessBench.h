@@ -8,7 +8,7 @@
 #include "platform/coredll.h"
 
 #include "demo/headunit/ScratchDevice.h"
-#include "tests/demo/processes/Program.h"
+#include "tests/support/Program.h"
 #include "tools/png/Png.h"
 #include "tools/systemservice/SystemService.h"
 

@@ -1,36 +1,73 @@
 #include <chrono>
-#include <csignal>
 #include <gtest/gtest.h>
 #include <memory>
-#include <unistd.h>
+#include <thread>
 #include <vector>
 
 #include "platform/InterprocessLock.h"
 #include "platform/SharedMemory.h"
 #include "platform/Simulation.h"
 
-#include "tests/platform/DeviceFolder.h"
-#include "tests/support/ForkedProcess.h"
+#include "tests/platform/memory/MemoryDevice.h"
+#include "tests/support/OtherProcess.h"
 
 namespace korvane {
 namespace {
 
-using test::ForkedProcess;
-using test::Gate;
+using test::AwaitTest;
+using test::OtherProcess;
+using test::Role;
+using test::TellTest;
 
 constexpr wchar_t kName[] = L"setup";
 constexpr unsigned kLong = 10000;
+constexpr int kRounds = 100;
 
-class InterprocessLocks : public testing::Test {
-  protected:
-    ~InterprocessLocks() override {
-        // Another device may have been in use since.
-        SetDeviceRoot(device.Path());
-        RemoveSharedMemory();
+volatile int* MapCount() {
+    return static_cast<volatile int*>(MapSharedMemory(L"count", sizeof(int), nullptr));
+}
+
+const Role holdLock("HoldLock", [](const Role::Words&) {
+    const InterprocessLock lock(kName, 0);
+    TellTest(lock.IsHeld() ? "held" : "failed");
+    AwaitTest();
+    return 0;
+});
+
+const Role countUp("CountUp", [](const Role::Words&) {
+    volatile int* const count = MapCount();
+    for (int round = 0; count && round < kRounds; ++round) {
+        const InterprocessLock lock(kName, kLong);
+        if (!lock.IsHeld())
+            return 1;
+        const int seen = *count;
+        std::this_thread::yield();
+        *count = seen + 1;
     }
+    return count ? 0 : 2;
+});
 
-    DeviceFolder device;
-};
+const Role takeAgainAndAgain("TakeAgainAndAgain", [](const Role::Words&) {
+    volatile int* const holds = MapCount();
+    for (bool first = true; holds; first = false) {
+        const InterprocessLock lock(kName, kLong);
+        *holds = *holds + 1;
+        if (first)
+            TellTest("held");
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    return 1;
+});
+
+const Role waitForLock("WaitForLock", [](const Role::Words&) {
+    TellTest("waiting");
+    const InterprocessLock lock(kName, kLong);
+    if (!lock.IsHeld())
+        return 1;
+    return InterprocessLock(kName, 0).IsHeld() ? 2 : 0;
+});
+
+using InterprocessLocks = MemoryDevice;
 
 TEST_F(InterprocessLocks, AreHeldByOneAtATime) {
     auto first = std::make_unique<InterprocessLock>(kName, 0);
@@ -40,32 +77,30 @@ TEST_F(InterprocessLocks, AreHeldByOneAtATime) {
     EXPECT_TRUE(InterprocessLock(kName, 0).IsHeld());
 }
 
+TEST_F(InterprocessLocks, KeepOtherThreadsOut) {
+    auto first = std::make_unique<InterprocessLock>(kName, 0);
+    bool heldAtOnce = true;
+    std::thread([&heldAtOnce] { heldAtOnce = InterprocessLock(kName, 0).IsHeld(); }).join();
+    EXPECT_FALSE(heldAtOnce);
+    bool heldAtLast = false;
+    std::thread waiting([&heldAtLast] { heldAtLast = InterprocessLock(kName, kLong).IsHeld(); });
+    first.reset();
+    waiting.join();
+    EXPECT_TRUE(heldAtLast);
+}
+
 TEST_F(InterprocessLocks, KeepOtherProcessesOutUntilTheirHolderIsKilled) {
-    const Gate held;
-    const Gate never;
-    ForkedProcess holder([&] {
-        const InterprocessLock lock(kName, 0);
-        held.Open();
-        never.Wait();
-        return 0;
-    });
-    ASSERT_TRUE(held.Wait());
+    OtherProcess holder(holdLock);
+    ASSERT_EQ(holder.Hear(), "held");
     EXPECT_FALSE(InterprocessLock(kName, 0).IsHeld());
     holder.Kill();
     EXPECT_TRUE(InterprocessLock(kName, 0).IsHeld());
 }
 
 TEST_F(InterprocessLocks, AreWaitedFor) {
-    const Gate held;
-    const Gate enough;
-    ForkedProcess holder([&] {
-        const InterprocessLock lock(kName, 0);
-        held.Open();
-        enough.Wait();
-        return lock.IsHeld() ? 0 : 1;
-    });
-    ASSERT_TRUE(held.Wait());
-    enough.Open();
+    OtherProcess holder(holdLock);
+    ASSERT_EQ(holder.Hear(), "held");
+    holder.Say("enough");
     EXPECT_TRUE(InterprocessLock(kName, kLong).IsHeld());
     EXPECT_EQ(holder.Wait(), 0);
 }
@@ -81,55 +116,33 @@ TEST_F(InterprocessLocks, AreWaitedForNoLongerThanAsked) {
 
 TEST_F(InterprocessLocks, LetNoCountGetLost) {
     constexpr int kProcesses = 8;
-    constexpr int kRounds = 100;
-    auto* const count = static_cast<volatile int*>(MapSharedMemory(L"count", sizeof(int), nullptr));
+    const volatile int* const count = MapCount();
     ASSERT_NE(count, nullptr);
-    std::vector<std::unique_ptr<ForkedProcess>> processes;
-    for (int i = 0; i < kProcesses; ++i) {
-        processes.push_back(std::make_unique<ForkedProcess>([count] {
-            for (int round = 0; round < kRounds; ++round) {
-                const InterprocessLock lock(kName, kLong);
-                if (!lock.IsHeld())
-                    return 1;
-                const int seen = *count;
-                usleep(0);
-                *count = seen + 1;
-            }
-            return 0;
-        }));
-    }
+    std::vector<std::unique_ptr<OtherProcess>> processes;
+    for (int i = 0; i < kProcesses; ++i)
+        processes.push_back(std::make_unique<OtherProcess>(countUp));
     for (const auto& process : processes)
         EXPECT_EQ(process->Wait(), 0);
     EXPECT_EQ(*count, kProcesses * kRounds);
 }
 
 TEST_F(InterprocessLocks, PassNobodyByWhoWaitsWhileAnotherTakesThemAgainAndAgain) {
-    constexpr int kRounds = 20;
-    auto* const holds = static_cast<volatile int*>(MapSharedMemory(L"holds", sizeof(int), nullptr));
+    constexpr int kWaits = 20;
+    const volatile int* const holds = MapCount();
     ASSERT_NE(holds, nullptr);
-    const Gate held;
-    ForkedProcess greedy([&] {
-        for (bool first = true;; first = false) {
-            const InterprocessLock lock(kName, kLong);
-            *holds = *holds + 1;
-            if (first)
-                held.Open();
-            usleep(1000);
-        }
-        return 0;
-    });
-    ASSERT_TRUE(held.Wait());
+    OtherProcess greedy(takeAgainAndAgain);
+    ASSERT_EQ(greedy.Hear(), "held");
     int passedBy = 0;
-    for (int round = 0; round < kRounds; ++round) {
+    for (int round = 0; round < kWaits; ++round) {
         int before = *holds;
         while (*holds == before)
-            usleep(100);
+            std::this_thread::yield();
         before = *holds;
         const InterprocessLock lock(kName, kLong);
         ASSERT_TRUE(lock.IsHeld());
         passedBy += *holds - before;
     }
-    EXPECT_LE(passedBy, 4 * kRounds);
+    EXPECT_LE(passedBy, 4 * kWaits);
 }
 
 TEST_F(InterprocessLocks, OfOtherNamesAndDevicesAreOthers) {
@@ -150,13 +163,8 @@ TEST_F(InterprocessLocks, AreNotHeldUnderNamesThatAreNone) {
 
 TEST_F(InterprocessLocks, AreHeldAfterTheirObjectWasRemovedWhileSomebodyWaits) {
     auto first = std::make_unique<InterprocessLock>(kName, 0);
-    const Gate held;
-    ForkedProcess waiter([&] {
-        const InterprocessLock lock(kName, kLong);
-        if (!lock.IsHeld())
-            return 1;
-        return InterprocessLock(kName, 0).IsHeld() ? 2 : 0;
-    });
+    OtherProcess waiter(waitForLock);
+    ASSERT_EQ(waiter.Hear(), "waiting");
     RemoveSharedMemory();
     first.reset();
     EXPECT_EQ(waiter.Wait(), 0);

@@ -1,22 +1,24 @@
-#include <csignal>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <memory>
 #include <string>
-#include <sys/resource.h>
 #include <vector>
 
 #include "platform/Files.h"
 
 #include "tests/platform/DeviceFolder.h"
-#include "tests/support/ForkedProcess.h"
+#include "tests/support/OtherProcess.h"
 
 namespace korvane {
 namespace {
 
-using test::ForkedProcess;
-using test::Gate;
+using test::AwaitTest;
+using test::OtherProcess;
+using test::Role;
+using test::TellTest;
+
+constexpr std::size_t kLongSize = std::size_t{2} << 20;
 
 bool Replace(const std::string& contents) {
     return ReplaceFileAtomically(L"\\settings.ini", contents.data(), contents.size());
@@ -27,30 +29,38 @@ std::ptrdiff_t FilesIn(const DeviceFolder& device) {
     return std::distance(begin(folder), end(folder));
 }
 
-/// Dies in the middle of a write, since no file may become longer than 1000 bytes.
-void DieWriting() {
-    ForkedProcess writer([] {
-        const rlimit limit = {1000, 1000};
-        setrlimit(RLIMIT_FSIZE, &limit);
-        signal(SIGXFSZ, SIG_DFL);
-        Replace(std::string(5000, 'x'));
-        return 0;
-    });
-    ASSERT_EQ(writer.Wait(), -SIGXFSZ);
-}
+const Role writeForEver("WriteForEver", [](const Role::Words&) {
+    const std::string contents(kLongSize, 'x');
+    TellTest("writing");
+    while (Replace(contents)) {
+    }
+    return 1;
+});
 
-TEST(KilledWriter, LeavesTheOldFile) {
+const Role writeForty("WriteForty", [](const Role::Words& words) {
+    TellTest("ready");
+    AwaitTest();
+    for (int round = 0; round < 40; ++round) {
+        if (!Replace(std::string(2000, words.at(0).at(0))))
+            return 1;
+    }
+    return 0;
+});
+
+TEST(KilledWriter, LeavesAWholeFileAndNothingThatTheNextWriterDoesNotClearAway) {
     const DeviceFolder device;
     ASSERT_TRUE(Replace("old"));
-    DieWriting();
-    EXPECT_EQ(device.Read("settings.ini"), "old");
-}
-
-TEST(KilledWriter, LeavesNothingThatTheNextWriterDoesNotClearAway) {
-    const DeviceFolder device;
-    for (int i = 0; i < 10; ++i)
-        DieWriting();
-    EXPECT_EQ(FilesIn(device), 1) << "what the last one had written";
+    for (int round = 0; round < 10; ++round) {
+        OtherProcess writer(writeForEver);
+        ASSERT_EQ(writer.Hear(), "writing");
+        // Long enough, now and then, for a whole one.
+        for (int i = 0; i < round; ++i)
+            FilesIn(device);
+        writer.Kill();
+        const std::string contents = device.Read("settings.ini");
+        EXPECT_TRUE(contents == "old" || contents == std::string(kLongSize, 'x')) << contents.size();
+        EXPECT_LE(FilesIn(device), 2) << "what the last one had written";
+    }
     ASSERT_TRUE(Replace("new"));
     EXPECT_EQ(device.Read("settings.ini"), "new");
     EXPECT_EQ(FilesIn(device), 1);
@@ -59,20 +69,14 @@ TEST(KilledWriter, LeavesNothingThatTheNextWriterDoesNotClearAway) {
 TEST(KilledWriter, DoesNotHoldUpWritersThatAreAtWorkAtOnce) {
     constexpr int kWriters = 8;
     const DeviceFolder device;
-    const Gate start;
-    std::vector<std::unique_ptr<ForkedProcess>> writers;
+    std::vector<std::unique_ptr<OtherProcess>> writers;
     for (int i = 0; i < kWriters; ++i) {
-        writers.push_back(std::make_unique<ForkedProcess>([&start, i] {
-            if (!start.Wait())
-                return 1;
-            for (int round = 0; round < 40; ++round) {
-                if (!Replace(std::string(2000, static_cast<char>('a' + i))))
-                    return 2;
-            }
-            return 0;
-        }));
+        const std::string letter(1, static_cast<char>('a' + i));
+        writers.push_back(std::make_unique<OtherProcess>(writeForty, Role::Words{letter}));
+        ASSERT_EQ(writers.back()->Hear(), "ready");
     }
-    start.Open(kWriters);
+    for (const auto& writer : writers)
+        writer->Say("go");
     for (int round = 0; round < 40; ++round) {
         std::vector<unsigned char> bytes;
         if (!ReadWholeFile(L"settings.ini", 10000, bytes))

@@ -1,94 +1,96 @@
 #include <atomic>
-#include <csignal>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
-#include <gtest/gtest.h>
 #include <memory>
 #include <string>
-#include <sys/resource.h>
-#include <sys/stat.h>
 #include <thread>
-#include <unistd.h>
 #include <vector>
 
-#include "platform/DeviceKey.h"
-#include "platform/SharedMemory.h"
-#include "platform/Simulation.h"
-
-#include "tests/platform/DeviceFolder.h"
-#include "tests/support/ForkedProcess.h"
+#include "tests/platform/memory/MemoryDevice.h"
+#include "tests/support/OtherProcess.h"
 
 namespace korvane {
 namespace {
 
-namespace fs = std::filesystem;
-using test::ForkedProcess;
-using test::Gate;
+using test::AwaitTest;
+using test::OtherProcess;
+using test::Role;
+using test::TellTest;
 
-constexpr wchar_t kName[] = L"state";
+using SharedMemory = MemoryDevice;
 
-/// A scratch device whose memory goes with it.
-class SharedMemory : public testing::Test {
-  protected:
-    ~SharedMemory() override {
-        // Another device may have been in use since.
-        SetDeviceRoot(device.Path());
-        RemoveSharedMemory();
-    }
-
-    static unsigned char* Map(std::size_t size, const std::function<void(void*)>& fill = nullptr) {
-        return static_cast<unsigned char*>(MapSharedMemory(kName, size, fill));
-    }
-
-    /// The file as which the system shows the region.
-    static std::string ObjectFile() { return "/dev/shm/korvane-" + DeviceKey() + "-memory-state"; }
-
-    static void WriteObject(const std::string& contents) {
-        std::ofstream(ObjectFile(), std::ios::binary) << contents;
-    }
-
-    static std::string ReadObject() {
-        std::ifstream file(ObjectFile(), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-
-    DeviceFolder device;
-};
-
-TEST_F(SharedMemory, StartsZeroedAndOutlivesTheProcessThatMadeIt) {
-    ForkedProcess maker([] {
-        unsigned char* const bytes = Map(100);
-        if (!bytes)
-            return 1;
-        for (int i = 0; i < 100; ++i) {
-            if (bytes[i] != 0)
-                return 2;
-        }
+/// Makes a region of 100 bytes, marks its ends, and keeps it until the test ends the process.
+const Role makeRegion("MakeRegion", [](const Role::Words&) {
+    unsigned char* const bytes = MemoryDevice::Map(100);
+    bool isZero = bytes != nullptr;
+    for (int i = 0; isZero && i < 100; ++i)
+        isZero = bytes[i] == 0;
+    if (isZero) {
         bytes[0] = 7;
         bytes[99] = 9;
-        return 0;
+    }
+    TellTest(isZero ? "made" : "failed");
+    AwaitTest();
+    return 0;
+});
+
+const Role writeByte("WriteByte", [](const Role::Words&) {
+    unsigned char* const bytes = MemoryDevice::Map(1);
+    if (!bytes)
+        return 1;
+    bytes[0] = 42;
+    return 0;
+});
+
+/// Says how often the region was filled, as soon as the test lets it look.
+const Role countFills("CountFills", [](const Role::Words&) {
+    TellTest("ready");
+    AwaitTest();
+    const unsigned char* const bytes = MemoryDevice::Map(2, [](void* fresh) {
+        auto* const count = static_cast<unsigned char*>(fresh);
+        ++count[0];
+        std::this_thread::yield();
+        count[1] = 55;
     });
-    ASSERT_EQ(maker.Wait(), 0);
+    TellTest(bytes && bytes[1] == 55 ? std::to_string(bytes[0]) : "failed");
+    AwaitTest();
+    return 0;
+});
+
+const Role dieFilling("DieFilling", [](const Role::Words&) {
+    MemoryDevice::Map(10, [](void* fresh) {
+        std::memset(fresh, 0xEE, 10);
+        test::KillThisProcess();
+    });
+    return 0;
+});
+
+/// Its exit status is the first byte of the region.
+const Role readByte("ReadByte", [](const Role::Words&) {
+    const unsigned char* const bytes = MemoryDevice::Map(1);
+    return bytes ? int{bytes[0]} : 255;
+});
+
+TEST_F(SharedMemory, StartsZeroedAndIsThatOfWhoMadeIt) {
+    OtherProcess maker(makeRegion);
+    ASSERT_EQ(maker.Hear(), "made");
     const unsigned char* const bytes = Map(100);
     ASSERT_NE(bytes, nullptr);
     EXPECT_EQ(bytes[0], 7);
     EXPECT_EQ(bytes[99], 9);
 }
 
+TEST_F(SharedMemory, OutlivesItsMakerInWhoMappedIt) {
+    OtherProcess maker(makeRegion);
+    ASSERT_EQ(maker.Hear(), "made");
+    ASSERT_NE(Map(100), nullptr);
+    maker.Kill();
+    EXPECT_EQ(OtherProcess(readByte).Wait(), 7);
+}
+
 TEST_F(SharedMemory, ShowsAtOnceWhatAnotherProcessWrites) {
-    Gate written;
-    ForkedProcess writer([&written] {
-        unsigned char* const bytes = Map(1);
-        if (!bytes)
-            return 1;
-        bytes[0] = 42;
-        written.Open();
-        return 0;
-    });
     const volatile unsigned char* const bytes = Map(1);
     ASSERT_NE(bytes, nullptr);
-    ASSERT_TRUE(written.Wait());
+    ASSERT_EQ(OtherProcess(writeByte).Wait(), 0);
     EXPECT_EQ(bytes[0], 42);
 }
 
@@ -109,24 +111,15 @@ TEST_F(SharedMemory, StaysAtItsAddressAndOnItsBoundary) {
 
 TEST_F(SharedMemory, IsFilledOnceHoweverManyProcessesStartAtOnce) {
     constexpr int kProcesses = 20;
-    const Gate start;
-    std::vector<std::unique_ptr<ForkedProcess>> processes;
-    for (int i = 0; i < kProcesses; ++i) {
-        processes.push_back(std::make_unique<ForkedProcess>([&start] {
-            if (!start.Wait())
-                return 100;
-            const unsigned char* const bytes = Map(2, [](void* fresh) {
-                auto* const count = static_cast<unsigned char*>(fresh);
-                ++count[0];
-                std::this_thread::yield();
-                count[1] = 55;
-            });
-            return bytes && bytes[1] == 55 ? bytes[0] : 101;
-        }));
-    }
-    start.Open(kProcesses);
+    std::vector<std::unique_ptr<OtherProcess>> processes;
+    for (int i = 0; i < kProcesses; ++i)
+        processes.push_back(std::make_unique<OtherProcess>(countFills));
     for (const auto& process : processes)
-        EXPECT_EQ(process->Wait(), 1);
+        ASSERT_EQ(process->Hear(), "ready");
+    for (const auto& process : processes)
+        process->Say("go");
+    for (const auto& process : processes)
+        EXPECT_EQ(process->Hear(), "1");
 }
 
 TEST_F(SharedMemory, IsFilledOnceHoweverManyThreadsStartAtOnce) {
@@ -144,14 +137,8 @@ TEST_F(SharedMemory, IsFilledOnceHoweverManyThreadsStartAtOnce) {
 }
 
 TEST_F(SharedMemory, IsFilledAnewWhenTheProcessDiesThatFillsIt) {
-    ForkedProcess maker([] {
-        Map(10, [](void* fresh) {
-            std::memset(fresh, 0xEE, 10);
-            raise(SIGKILL);
-        });
-        return 0;
-    });
-    ASSERT_EQ(maker.Wait(), -SIGKILL);
+    OtherProcess maker(dieFilling);
+    ASSERT_EQ(maker.Wait(), OtherProcess::kKilled);
     bool filled = false;
     const unsigned char* const bytes = Map(20, [&filled](void* fresh) {
         filled = true;
@@ -168,89 +155,20 @@ TEST_F(SharedMemory, MayMapAnotherRegionWhileItIsFilled) {
 }
 
 TEST_F(SharedMemory, IsRefusedToWhoAsksForMoreThanItHas) {
-    ForkedProcess maker([] { return Map(100) ? 0 : 1; });
-    ASSERT_EQ(maker.Wait(), 0);
+    OtherProcess maker(makeRegion);
+    ASSERT_EQ(maker.Hear(), "made");
     EXPECT_EQ(Map(101), nullptr);
+    EXPECT_EQ(Map(5000), nullptr);
     EXPECT_NE(Map(100), nullptr);
     EXPECT_EQ(Map(101), nullptr) << "also when it is mapped";
 }
 
 TEST_F(SharedMemory, IsWholeForWhoAsksForLessFirst) {
-    ForkedProcess maker([] { return Map(100) ? 0 : 1; });
-    ASSERT_EQ(maker.Wait(), 0);
+    OtherProcess maker(makeRegion);
+    ASSERT_EQ(maker.Hear(), "made");
     const unsigned char* const bytes = Map(10);
     ASSERT_NE(bytes, nullptr);
     EXPECT_EQ(Map(100), bytes);
-}
-
-TEST_F(SharedMemory, IsTheOwnersOnly) {
-    const mode_t before = umask(0);
-    ASSERT_NE(Map(10), nullptr);
-    umask(before);
-    struct stat status = {};
-    ASSERT_EQ(stat(ObjectFile().c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777, 0600u);
-
-    chmod(ObjectFile().c_str(), 0666);
-    ForkedProcess other([] { return MapSharedMemory(L"other", 1, nullptr) ? 0 : 1; });
-    ASSERT_EQ(other.Wait(), 0);
-}
-
-TEST_F(SharedMemory, IsClosedToOthersByWhoeverOpensIt) {
-    WriteObject("");
-    chmod(ObjectFile().c_str(), 0666);
-    ASSERT_NE(Map(10), nullptr);
-    struct stat status = {};
-    ASSERT_EQ(stat(ObjectFile().c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777, 0600u);
-}
-
-TEST_F(SharedMemory, OfAnotherUserIsRefused) {
-    if (geteuid() != 0)
-        GTEST_SKIP() << "only root can give files away";
-    WriteObject("");
-    ASSERT_EQ(chown(ObjectFile().c_str(), 12345, 12345), 0);
-    chmod(ObjectFile().c_str(), 0666);
-    EXPECT_EQ(Map(10), nullptr);
-    EXPECT_EQ(ReadObject(), "");
-}
-
-TEST_F(SharedMemory, LeavesAloneWhatItDidNotMake) {
-    const std::string longText(1000, 'x');
-    for (const std::string& contents : {std::string("x"), longText}) {
-        WriteObject(contents);
-        EXPECT_EQ(Map(10), nullptr);
-        EXPECT_EQ(ReadObject(), contents);
-    }
-}
-
-TEST_F(SharedMemory, ThatWasCutShortIsRefused) {
-    ForkedProcess maker([] { return Map(5000) ? 0 : 1; });
-    ASSERT_EQ(maker.Wait(), 0);
-    for (const int size : {5063, 100, 64, 16, 3}) {
-        ASSERT_EQ(truncate(ObjectFile().c_str(), size), 0);
-        EXPECT_EQ(Map(5000), nullptr) << size;
-        EXPECT_EQ(Map(1), nullptr) << size;
-    }
-}
-
-TEST_F(SharedMemory, IsNotLookedForBehindALink) {
-    device.Write("elsewhere", "");
-    fs::create_symlink(device.Path() + "/elsewhere", ObjectFile());
-    EXPECT_EQ(Map(10), nullptr);
-    EXPECT_EQ(device.Read("elsewhere"), "");
-}
-
-TEST_F(SharedMemory, ThatDoesNotFitIsRefusedBeforeItIsWrittenTo) {
-    ForkedProcess process([] {
-        signal(SIGXFSZ, SIG_IGN);
-        rlimit limit = {4096, 4096};
-        setrlimit(RLIMIT_FSIZE, &limit);
-        if (Map(8192))
-            return 1;
-        return Map(1000) ? 0 : 2;
-    });
-    EXPECT_EQ(process.Wait(), 0);
 }
 
 TEST_F(SharedMemory, RefusesNamesAndSizesThatAreNone) {
@@ -267,19 +185,27 @@ TEST_F(SharedMemory, RefusesNamesAndSizesThatAreNone) {
     EXPECT_NE(Map(std::size_t{16} << 20), nullptr);
 }
 
+TEST_F(SharedMemory, ThatWasRemovedIsNotThatOfNewProcesses) {
+    unsigned char* const bytes = Map(10);
+    ASSERT_NE(bytes, nullptr);
+    bytes[0] = 42;
+    RemoveSharedMemory();
+    EXPECT_EQ(OtherProcess(readByte).Wait(), 0);
+    EXPECT_EQ(bytes[0], 42) << "who has it keeps it";
+}
+
 TEST_F(SharedMemory, GoesWithItsDeviceAndNoOther) {
-    ASSERT_NE(Map(10), nullptr);
-    const std::string kept = ObjectFile();
+    unsigned char* const bytes = Map(10);
+    ASSERT_NE(bytes, nullptr);
+    bytes[0] = 42;
     {
         const DeviceFolder other;
         ASSERT_NE(Map(10), nullptr);
-        const std::string removed = ObjectFile();
-        ASSERT_TRUE(fs::exists(removed));
+        EXPECT_EQ(OtherProcess(readByte).Wait(), 0);
         RemoveSharedMemory();
-        EXPECT_FALSE(fs::exists(removed));
     }
     SetDeviceRoot(device.Path());
-    EXPECT_TRUE(fs::exists(kept));
+    EXPECT_EQ(OtherProcess(readByte).Wait(), 42);
 }
 
 }  // namespace
