@@ -32,7 +32,7 @@ enum ExitStatus { kSuccess = 0, kFailure = 1, kUsage = 2, kNoDisplay = 3 };
 constexpr wchar_t kTitle[] = L"KorvaneEx head unit";
 
 struct Options {
-    std::string display = "sdl";
+    std::string display = korvane::DefaultDisplay();
     korvane::tools::ScreenSize size;
     std::string deviceRoot;
     std::string usbFolder;
@@ -48,9 +48,10 @@ void Complain(const std::string& text) {
 std::optional<int> ReadOptions(int argc, char** argv, Options& options) {
     CLI::App app("A head unit, on a window of the desktop, on a device's display or off-screen.", "headunit");
     app.failure_message(korvane::tools::DescribeWrongUsage);
-    auto* display =
-        app.add_option("--display", options.display, "Where it is shown: sdl (a window) or memory (nowhere)")
-            ->capture_default_str();
+    auto* display = app.add_option("--display", options.display,
+                                   std::string("Where it is shown: ") + korvane::DefaultDisplay() +
+                                       " (a window) or memory (nowhere)")
+                        ->capture_default_str();
     app.add_option_function<std::string>(
            "--size",
            [&options](const std::string& text) {

@@ -1,7 +1,8 @@
 #include "KorvaneEx.h"
+#include "platform/Display.h"
 
 int main() {
-    if (!CLQScreen::GetInstance()->Open("sdl", 400, 300, L"One wheel"))
+    if (!CLQScreen::GetInstance()->Open(korvane::DefaultDisplay(), 400, 300, L"One wheel"))
         return 1;
     CLQWindow window;
     window.Create(0, 0, 400, 300);
