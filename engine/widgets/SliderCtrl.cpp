@@ -64,8 +64,25 @@ void CLQSliderCtrl::SetValue(int value) {
     value = std::clamp(value, m_nMin, m_nMax);
     if (value == m_nValue)
         return;
+    const int before = GetThumbPos();
     m_nValue = value;
-    Invalidate();
+    InvalidateThumbWay(before, GetThumbPos());
+}
+
+/// Whatever a value moves, the thumb in either look and the end of the fill below its middle, lies there.
+void CLQSliderCtrl::InvalidateThumbWay(int from, int to) {
+    const int length = std::max(ThumbLength(), LengthAlongTrack(m_imageThumbPressed.Surface()));
+    const int start = m_nTrackOffset + std::min(from, to);
+    const int end = m_nTrackOffset + std::max(from, to) + length;
+    _LQRect way = GetScreenRect();
+    if (m_bVertical) {
+        way.bottom = way.top + m_nTopInset + end;
+        way.top += m_nTopInset + start;
+    } else {
+        way.right = way.left + m_nLeftInset + end;
+        way.left += m_nLeftInset + start;
+    }
+    InvalidatePart(way);
 }
 
 int CLQSliderCtrl::GetValue() const {
@@ -93,9 +110,12 @@ void CLQSliderCtrl::SetVertical(bool vertical) {
     Invalidate();
 }
 
+int CLQSliderCtrl::LengthAlongTrack(CLQSurfHandle& image) const {
+    return m_bVertical ? image.GetHeight() : image.GetWidth();
+}
+
 int CLQSliderCtrl::ThumbLength() {
-    CLQSurfHandle& thumb = m_imageThumb.Surface();
-    return m_bVertical ? thumb.GetHeight() : thumb.GetWidth();
+    return LengthAlongTrack(m_imageThumb.Surface());
 }
 
 int CLQSliderCtrl::MaxThumbPos() {

@@ -35,7 +35,8 @@ class KORVANE_API CLQSliderCtrl : public CLQBaseCtrl {
     /// 0 to 100 at first. A maximum below the minimum counts as the minimum. The value is clamped.
     void SetRange(int minimum, int maximum);
     void GetRange(int& minimum, int& maximum) const;
-    /// Clamped into the range; fires nothing.
+    /// Clamped into the range; fires nothing. Of the slider only the thumb's way is repainted: a derived
+    /// class that shows the value elsewhere has that repainted itself.
     void SetValue(int value);
     int GetValue() const;
 
@@ -77,7 +78,9 @@ class KORVANE_API CLQSliderCtrl : public CLQBaseCtrl {
 
   private:
     int ThumbLength();
+    int LengthAlongTrack(CLQSurfHandle& image) const;
     int MaxThumbPos();
+    void InvalidateThumbWay(int from, int to);
     int ValueAt(int x, int y);
     void FollowFinger(const _LQMessage& msg);
     void SetImage(korvane::NamedImage& image, const wchar_t* file);

@@ -159,10 +159,18 @@ void CLQBaseCtrl::Invalidate() {
     InvalidateArea();
 }
 
+void CLQBaseCtrl::InvalidatePart(const _LQRect& part) {
+    m_bNeedRedraw = true;
+    RequestRepaint(korvane::Intersect(part, GetScreenRect()));
+}
+
 void CLQBaseCtrl::InvalidateArea() {
-    if (!m_pOwnerWnd || !m_bOwnerUpdate || !IsOwnerShow())
-        return;
-    m_pOwnerWnd->InvalidateRect(GetScreenRect());
+    RequestRepaint(GetScreenRect());
+}
+
+void CLQBaseCtrl::RequestRepaint(const _LQRect& rect) {
+    if (m_pOwnerWnd && m_bOwnerUpdate && IsOwnerShow())
+        m_pOwnerWnd->InvalidateRect(rect);
 }
 
 void CLQBaseCtrl::LeaveOwner() {

@@ -93,6 +93,7 @@ class TuningScale final : public ScreenOf<CLQDialSlider> {
     void Show(bool changed) override { ctrl_.SetVaule(changed ? 98.6f : 98.5f); }
 };
 
+/// The change is the thumb's way from one value to the next, all across the slider.
 class ProgressSlider final : public ScreenOf<CLQSliderExCtrl> {
   public:
     ProgressSlider() {
@@ -113,6 +114,14 @@ class ProgressSlider final : public ScreenOf<CLQSliderExCtrl> {
         ctrl_.EnableReapetBIcon(240);
         Show(false);
         window_.AddChild(&ctrl_);
+    }
+
+    _LQRect ChangedRect() override {
+        // The thumb, 16 wide, moves by 2 pixels for each of the 328 values.
+        _LQRect way = ctrl_.GetScreenRect();
+        way.left += 64 + 2 * 180;
+        way.right = way.left + 2 + 16;
+        return way;
     }
 
   private:

@@ -143,6 +143,57 @@ TEST_F(Slider, TakesNoTouchWhileItIsDisabled) {
     EXPECT_EQ(slider->GetValue(), 0);
 }
 
+TEST_F(Slider, RepaintsTheThumbsWayAlone) {
+    slider->SetValue(50);
+    scene.Pump();
+    CLQScreen::GetInstance()->ResetCounters();
+    scene.FillWithGarbage();
+    const auto before = scene.Pixels();
+    slider->SetValue(53);
+    scene.Pump();
+    EXPECT_EQ(CLQScreen::GetInstance()->GetCounters().paintedPixels, 23u * 20u);
+    const auto after = scene.Pixels();
+    for (int y = 0; y < 100; ++y) {
+        for (int x = 0; x < 200; ++x) {
+            const bool inside = x >= 60 && x < 83 && y >= 30 && y < 50;
+            const auto at = static_cast<std::size_t>(y * 200 + x);
+            ASSERT_TRUE(inside || after[at] == before[at]) << x << ", " << y;
+        }
+    }
+}
+
+TEST_F(Slider, ShowsAfterAChangeOfTheValueWhatAFullRepaintShows) {
+    MakeImage("long.lqi", 36, 36, kYellow);
+    slider->SetSize(170, 66);
+    for (const wchar_t* const held : {L"held.lqi", L"long.lqi", L""}) {
+        slider->SetThumbPressedSurf(held);
+        for (const wchar_t* const thumb : {L"thumb.lqi", L""}) {
+            slider->SetThumbSurf(thumb);
+            for (const int offset : {-15, 0, 9}) {
+                slider->SetInset(offset, -offset);
+                slider->SetTrackOffset(offset);
+                slider->SetThumbOffset(offset);
+                for (const bool vertical : {false, true}) {
+                    slider->SetVertical(vertical);
+                    scene.Press(70, 50);
+                    for (const int value : {0, 1, 100, 99, 50, 51, 47, 3}) {
+                        scene.Pump();
+                        slider->SetValue(value);
+                        if (value == 50)
+                            scene.Release(70, 50);
+                        scene.Pump();
+                        const auto partial = scene.Pixels();
+                        scene.FillWithGarbage();
+                        CLQScreen::GetInstance()->InvalidateAll();
+                        scene.Pump();
+                        ASSERT_TRUE(scene.Pixels() == partial) << value << ' ' << offset << ' ' << vertical;
+                    }
+                }
+            }
+        }
+    }
+}
+
 TEST_F(Slider, FiresNothingWhenTheValueIsSet) {
     slider->SetValue(12);
     slider->SetRange(20, 30);
