@@ -8,6 +8,20 @@ constexpr int kWheelX = 340;
 constexpr unsigned kTickMs = 50;
 constexpr unsigned kStepMs = 200;
 
+constexpr int kPresetsX = 696;
+constexpr int kPresetsY = 453;
+constexpr int kScaleX = 120;
+constexpr int kScaleY = 270;
+constexpr int kPresetBandX = 692;
+constexpr int kPresetBandY = 130;
+constexpr unsigned kHoldMs = 1500;
+/// The presets' buttons from the left, in the upper row and the lower one.
+constexpr int PresetX(int column) {
+    return 304 + 186 * column;
+}
+constexpr int kUpperPresetY = 256;
+constexpr int kLowerPresetY = 378;
+
 constexpr int kStripY = 30;
 constexpr int kBackX = 100;
 constexpr int kTrafficCancelX = 558;
@@ -107,6 +121,19 @@ void ShowAm(TourScript& tour) {
     tour.Picture("am-stopped");
     TouchBand(tour);
     tour.Picture("fm-again");
+}
+
+void ShowPresets(TourScript& tour) {
+    tour.Press(kPresetsX, kPresetsY).Picture("presets-button-pressed").Release(kPresetsX, kPresetsY);
+    tour.Picture("presets").Touch(PresetX(0), kLowerPresetY).Picture("presets-recalled");
+    tour.Press(kScaleX, kScaleY).Move(kScaleX, kScaleY - 100).Picture("presets-dragged");
+    tour.Release(kScaleX, kScaleY - 100).Press(PresetX(1), kUpperPresetY).Wait(kHoldMs - 100);
+    tour.Picture("presets-held").Wait(100).Picture("presets-stored").Release(PresetX(1), kUpperPresetY);
+    tour.Touch(PresetX(2), kLowerPresetY).Picture("presets-near-the-upper-end");
+    tour.Touch(kPresetBandX, kPresetBandY).Picture("presets-am");
+    tour.Set(L"language", 10).Picture("presets-am-polish").Set(L"language", 0);
+    tour.Touch(kPresetBandX, kPresetBandY).Touch(PresetX(0), kLowerPresetY).Touch(kBackX, kStripY);
+    tour.Picture("fm-from-the-presets");
 }
 
 void ShowStrip(TourScript& tour) {
@@ -221,6 +248,7 @@ TourScript HeadUnitTour() {
     TourScript tour;
     ShowFm(tour);
     ShowAm(tour);
+    ShowPresets(tour);
     ShowStrip(tour);
     ShowSources(tour);
     ShowMenu(tour);

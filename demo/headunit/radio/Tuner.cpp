@@ -8,7 +8,7 @@ namespace korvane::demo {
 namespace {
 
 /// A section for each band, in it the presets' numbers and their frequencies in kilohertz.
-constexpr wchar_t kFile[] = L"\\NandFlash\\Data\\Presets.ini";
+constexpr wchar_t kFile[] = L"\\NandFlash\\Application\\Profile\\LQ_RadioPresets.ini";
 
 std::wstring Key(std::size_t index) {
     return std::to_wstring(index + 1);
