@@ -1,13 +1,12 @@
 #include "tests/module/slides/SlideBench.h"
 
 #include <algorithm>
-#include <dlfcn.h>
 #include <stdexcept>
 
 #include "platform/Simulation.h"
 #include "platform/coredll.h"
 
-#include "tests/module/slides/RecordingDisplay.h"
+#include "tests/module/slides/RecorderSink.h"
 
 namespace korvane::test {
 
@@ -29,15 +28,6 @@ void Note(const std::uint32_t* pixels, int stride, int left, int top, int right,
     }
     g_shown.push_back(shown);
     AdvanceClock(g_presentMs);
-}
-
-void SetSink(PresentSink sink) {
-    // Held for good: the display's code must outlive the screen.
-    static void* const module = dlopen(KORVANE_TEST_RECORDER, RTLD_NOW | RTLD_LOCAL);
-    const auto set = module ? reinterpret_cast<SetPresentSink>(dlsym(module, kSetPresentSinkName)) : nullptr;
-    if (!set)
-        throw std::runtime_error("the recording display cannot be loaded");
-    set(sink);
 }
 
 }  // namespace
@@ -71,7 +61,7 @@ SlideBench::SlideBench() : shown(g_shown) {
     time.wMonth = 3;
     time.wDay = 15;
     UseManualClock(10000, time);
-    SetSink(&Note);
+    SetRecorderSink(&Note);
     if (!CLQScreen::GetInstance()->Open("recorder", kBenchWidth, kBenchHeight, L"Slides"))
         throw std::runtime_error("the recording display does not open");
     _LQColor navy = {16, 32, 72, 255};
@@ -84,7 +74,7 @@ SlideBench::SlideBench() : shown(g_shown) {
 
 SlideBench::~SlideBench() {
     CLQScreen::GetInstance()->Close();
-    SetSink(nullptr);
+    SetRecorderSink(nullptr);
     shown.clear();
     g_presentMs = 0;
     UseSystemClock();
