@@ -15,7 +15,9 @@ namespace fs = std::filesystem;
 
 class TunerTest : public testing::Test {
   protected:
-    fs::path File() const { return scene_.DeviceFolder() / "NandFlash/Application/Profile/LQ_RadioPresets.ini"; }
+    fs::path File() const {
+        return scene_.DeviceFolder() / "NandFlash/Application/Profile/LQ_RadioPresets.ini";
+    }
     void Write(const std::string& contents) const {
         fs::create_directories(File().parent_path());
         std::ofstream(File(), std::ios::binary) << contents;
