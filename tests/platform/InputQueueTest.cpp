@@ -14,7 +14,15 @@ std::vector<MSG> TakeAll() {
     return messages;
 }
 
+TEST(InputQueue, ReachesItsWindowWhateverTheClock) {
+    const TestWindow window;
+    EXPECT_TRUE(PostInput(window.Handle(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, 4)));
+    EXPECT_EQ(DrainQueue(), std::vector<UINT>{WM_LBUTTONDOWN});
+    EXPECT_FALSE(PostInput(nullptr, WM_LBUTTONDOWN, MK_LBUTTON, 0));
+}
+
 TEST(InputQueue, ComesAfterPostedMessages) {
+    const StoppedClock clock;
     const TestWindow window;
     PostInput(window.Handle(), WM_LBUTTONDOWN, MK_LBUTTON, 0);
     PostMessageW(window.Handle(), WM_APP, 0, 0);
@@ -34,6 +42,7 @@ TEST(InputQueue, KeepsTheLastOfMovesInARow) {
 }
 
 TEST(InputQueue, KeepsMovesApartThatSomethingElseDivides) {
+    const StoppedClock clock;
     const TestWindow window;
     const TestWindow other;
     PostInput(window.Handle(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(1, 1));
@@ -44,6 +53,7 @@ TEST(InputQueue, KeepsMovesApartThatSomethingElseDivides) {
 }
 
 TEST(InputQueue, TellsWhereOnTheScreenThePointerWas) {
+    const StoppedClock clock;
     const TestWindow window;  // at 10, 20
     PostInput(window.Handle(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(3, -4));
     PostMessageW(window.Handle(), WM_APP, 0, 0);
@@ -65,6 +75,7 @@ TEST(InputQueue, TakesATimeOfItsOwn) {
 }
 
 TEST(InputQueue, RefusesADeadWindowAndAFullQueue) {
+    const StoppedClock clock;
     const TestWindow window;
     EXPECT_FALSE(PostInput(nullptr, WM_LBUTTONDOWN, 0, 0));
     for (int i = 0; i < 10000; ++i)
@@ -74,6 +85,7 @@ TEST(InputQueue, RefusesADeadWindowAndAFullQueue) {
 }
 
 TEST(InputQueue, HoldsQuitBack) {
+    const StoppedClock clock;
     const TestWindow window;
     PostQuitMessage(0);
     PostInput(window.Handle(), WM_LBUTTONUP, 0, 0);

@@ -221,12 +221,13 @@ TEST_F(TimerTest, TellsHowLongTheNextOneTakes) {
     unsigned due = 0;
     EXPECT_FALSE(NextTimerDue(due));
     SetTimer(window_.Handle(), 1, 80, nullptr);
-    SetTimer(nullptr, 0, 50, &TimerProcedure);
+    const UINT_PTR ofTheThread = SetTimer(nullptr, 0, 50, &TimerProcedure);
     ASSERT_TRUE(NextTimerDue(due));
     EXPECT_EQ(due, 50u);
     AdvanceClock(200);
     ASSERT_TRUE(NextTimerDue(due));
     EXPECT_EQ(due, 0u);
+    KillTimer(nullptr, ofTheThread);
 }
 
 TEST_F(TimerTest, IsRefusedForADeadWindow) {
