@@ -154,6 +154,12 @@ TEST_P(LanguageTables, FitTheControlsThatShowThem) {
         EXPECT_LT(Width(id, 17), 240) << "cell that switches pages: " << id;
     for (const int id : {kCaptionSwipeToSeek, kCaptionSeekingUp, kCaptionSeekingDown, kCaptionHoldToStore})
         EXPECT_LE(Width(id, 22), 400) << "line below the band: " << id;
+    for (const int id : {kCaptionNowPlaying, kCaptionPause, kCaptionRepeat, kCaptionParkedOnly})
+        EXPECT_LE(Width(id, 20), 432) << "state of a player: " << id;
+    EXPECT_LE(Width(kCaptionParkedOnly, 22), 440) << "line beside the list of sources";
+    for (const int id : {kCaptionFolderEmpty, kCaptionNoMedium, kCaptionSwipeToOpen, kCaptionSwipeToPlay})
+        EXPECT_LE(Width(id, 18), 500) << "line below a file: " << id;
+    EXPECT_LE(Width(kCaptionFolderAbove, 22), 450) << "way to the folder above";
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, LanguageTables,

@@ -44,6 +44,7 @@ refuses 2 "is not a size" --size 800x480x2
 refuses 2 "'99999x480' is too large" --size 99999x480
 refuses 2 "'8192x8192' is too large: .* 16777216 in all" --size 8192x8192
 refuses 2 'no-such-folder' --device-root "$scratch/no-such-folder"
+refuses 2 'no-such-folder' --usb "$scratch/no-such-folder"
 refuses 2 'nonsense' --nonsense
 refuses 2 'tour' --tour "$scratch/x" --screenshot "$scratch/y.png"
 refuses 2 'display' --tour "$scratch/x" --display memory

@@ -16,6 +16,10 @@ FolderEntry EntryOf(const WIN32_FIND_DATAW& data) {
     return {data.cFileName, isFolder, std::uint64_t{data.nFileSizeHigh} << 32 | data.nFileSizeLow};
 }
 
+bool IsBefore(const FolderEntry& left, const FolderEntry& right) {
+    return left.isFolder != right.isFolder ? left.isFolder : left.name < right.name;
+}
+
 /// Hidden names, and those that no path can hold.
 bool IsLeftOut(const wchar_t* name) {
     return name[0] == L'.' || std::wcspbrk(name, L"\\/") != nullptr;
@@ -42,8 +46,7 @@ std::optional<std::vector<FolderEntry>> ReadFolder(const std::wstring& path) {
             entries.push_back(EntryOf(data));
     } while (entries.size() < kMostEntries && FindNextFileW(search, &data));
     FindClose(search);
-    std::stable_partition(entries.begin(), entries.end(),
-                          [](const FolderEntry& entry) { return entry.isFolder; });
+    std::sort(entries.begin(), entries.end(), IsBefore);
     return entries;
 }
 

@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "KorvaneEx.h"
+#include "platform/Simulation.h"
 
 #include "tests/demo/HeadUnitBench.h"
 #include "tests/demo/files/Stick.h"
@@ -224,6 +225,23 @@ TEST_F(FilesScreenTest, SaysThatAFolderCannotBeOpened) {
     scene_.Release(kOpenX + 60, kIconY);
     EXPECT_TRUE(scene_.Shows(L"This folder cannot be opened"));
     EXPECT_TRUE(scene_.Shows(L"This folder is empty"));
+}
+
+TEST_F(FilesScreenTest, ShowsAFolderThatIsPluggedIn) {
+    stick_.Write("A/on the device");
+    const test::Stick other(scene_.DeviceFolder() / "elsewhere");
+    other.Write("B/on the stick");
+    PlugMedium(L"USB", other.Folder().u8string());
+    OpenFiles();
+    EXPECT_TRUE(scene_.Shows(L"B"));
+    OpenEntry();
+    EXPECT_TRUE(scene_.Shows(L"on the stick"));
+    other.Remove();
+    scene_.Advance(kSecondMs);
+    EXPECT_TRUE(scene_.Shows(L"No medium inserted"));
+    PlugMedium(L"USB", "");
+    scene_.Advance(kSecondMs);
+    EXPECT_TRUE(scene_.Shows(L"A"));
 }
 
 TEST_F(FilesScreenTest, StepsThroughAHugeFolder) {

@@ -1,6 +1,7 @@
 #include "tests/demo/files/Stick.h"
 
 #include <fstream>
+#include <system_error>
 
 namespace korvane::test {
 
@@ -8,12 +9,11 @@ namespace fs = std::filesystem;
 
 void Stick::Write(const std::string& name, std::size_t bytes) const {
     const fs::path path = folder_ / fs::u8path(name);
-    if (name.empty() || name.back() == '/') {
-        fs::create_directories(path);
-        return;
-    }
-    fs::create_directories(path.parent_path());
-    std::ofstream(path, std::ios::binary) << std::string(bytes, '.');
+    const bool isFolder = name.empty() || name.back() == '/';
+    std::error_code error;
+    fs::create_directories(isFolder ? path : path.parent_path(), error);
+    if (!isFolder)
+        std::ofstream(path, std::ios::binary) << std::string(bytes, '.');
 }
 
 void Stick::Remove(const std::string& name) const {

@@ -10,7 +10,8 @@ class Stick {
   public:
     explicit Stick(const std::filesystem::path& deviceFolder) : folder_(deviceFolder / "USB") {}
 
-    /// Makes a file, or a folder where the name, in UTF-8, ends with a slash, and the folders above it.
+    /// Makes a file, or a folder where the name, in UTF-8, ends with a slash, and the folders above it, as
+    /// far as the host can have such names.
     void Write(const std::string& name, std::size_t bytes = 1) const;
     void Remove(const std::string& name) const;
     /// Takes everything away, the stick's own folder too.
