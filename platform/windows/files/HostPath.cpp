@@ -3,20 +3,25 @@
 #include "platform/Simulation.h"
 #include "platform/Unicode.h"
 #include "platform/files/DeviceComponents.h"
+#include "platform/files/PluggedMedia.h"
 #include "platform/windows/files/FullPath.h"
 
 namespace korvane {
 namespace {
 
-// Below the root, or as it is given where there is none.
+// On a medium that is plugged in or below the root, or as it is given where there is none.
 std::wstring Resolve(std::wstring_view devicePath) {
-    std::wstring path = FromUtf8(DeviceRoot());
+    const std::vector<std::wstring_view> components = DeviceComponents(devicePath);
+    std::wstring path = components.empty() ? L"" : FromUtf8(PluggedMedium(components.front()));
+    const std::size_t first = path.empty() ? 0 : 1;
+    if (path.empty())
+        path = FromUtf8(DeviceRoot());
     if (path.empty())
         return std::wstring(devicePath);
-    for (const std::wstring_view component : DeviceComponents(devicePath)) {
+    for (std::size_t i = first; i < components.size(); ++i) {
         if (path.back() != L'\\' && path.back() != L'/')
             path += L'\\';
-        path += component;
+        path += components[i];
     }
     return path;
 }
