@@ -54,6 +54,11 @@ TEST(ManualClock, StampsMessages) {
     EXPECT_EQ(GetTickCount() - message.time, 701u);
 }
 
+TEST(ManualClock, HasNoTimeForATone) {
+    const StoppedClock clock;
+    EXPECT_FALSE(MessageBeep(0));
+}
+
 TEST(ManualClock, LeavesARunningTimerWhatItHadLeft) {
     const TestWindow window;
     const StoppedClock clock(1000);
