@@ -1,6 +1,5 @@
 #include "tests/platform/DeviceFolder.h"
 
-#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <random>
@@ -25,15 +24,23 @@ DeviceFolder::~DeviceFolder() {
 }
 
 void DeviceFolder::Write(const std::string& name, const std::string& contents) const {
-    const auto file = std::filesystem::u8path(path_ + '/' + name);
+    const std::filesystem::path file = At(name);
     std::filesystem::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary) << contents;
 }
 
 std::string DeviceFolder::Read(const std::string& name) const {
-    std::ifstream file(std::filesystem::u8path(path_ + '/' + name), std::ios::binary);
+    std::ifstream file(At(name), std::ios::binary);
     EXPECT_TRUE(file) << name;
     return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::filesystem::path DeviceFolder::At(const std::string& name) const {
+    return std::filesystem::u8path(path_ + '/' + name);
+}
+
+std::filesystem::path HostPath(const wchar_t* devicePath) {
+    return std::filesystem::u8path(ToHostPath(devicePath));
 }
 
 }  // namespace korvane

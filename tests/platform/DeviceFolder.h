@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 namespace korvane {
@@ -19,8 +20,14 @@ class DeviceFolder {
     void Write(const std::string& name, const std::string& contents = "x") const;
     std::string Read(const std::string& name) const;
 
+    /// The host path of an entry below the root.
+    std::filesystem::path At(const std::string& name) const;
+
   private:
     std::string path_;
 };
+
+/// Where a path of the device lies on the host. Two such are equal whichever separators they have.
+std::filesystem::path HostPath(const wchar_t* devicePath);
 
 }  // namespace korvane

@@ -7,6 +7,11 @@
 namespace korvane {
 namespace {
 
+bool IsFolder(const wchar_t* path) {
+    const DWORD attributes = GetFileAttributesW(path);
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 class FileCallsTest : public testing::Test {
   protected:
     DeviceFolder device_;
@@ -14,7 +19,7 @@ class FileCallsTest : public testing::Test {
 
 TEST_F(FileCallsTest, MakesAndRemovesFolders) {
     EXPECT_TRUE(CreateDirectoryW(L"\\Data", nullptr));
-    EXPECT_EQ(GetFileAttributesW(L"\\DATA"), FILE_ATTRIBUTE_DIRECTORY);
+    EXPECT_TRUE(IsFolder(L"\\DATA"));
     EXPECT_FALSE(CreateDirectoryW(L"\\data", nullptr));
     EXPECT_EQ(GetLastError(), ERROR_ALREADY_EXISTS);
     EXPECT_FALSE(CreateDirectoryW(L"\\None\\Below", nullptr));
@@ -32,7 +37,7 @@ TEST_F(FileCallsTest, NeverRemovesTheRoot) {
     EXPECT_FALSE(RemoveDirectoryW(L"a\\.."));
     EXPECT_FALSE(MoveFileW(L"\\", L"\\a"));
     EXPECT_FALSE(DeleteFileW(L"\\"));
-    EXPECT_EQ(GetFileAttributesW(L"\\"), FILE_ATTRIBUTE_DIRECTORY);
+    EXPECT_TRUE(IsFolder(L"\\"));
 }
 
 TEST_F(FileCallsTest, DeletesNoFolderAsAFile) {
@@ -80,6 +85,40 @@ TEST_F(FileCallsTest, OpensNothingThatIsNoFile) {
     EXPECT_EQ(_wfopen(L"x", L""), nullptr);
     EXPECT_EQ(_wfopen(L"x", L"q"), nullptr);
     EXPECT_EQ(_wfopen(L"x", L"+r"), nullptr);
+}
+
+TEST_F(FileCallsTest, OpensForReadingWritingAndAppending) {
+    device_.Write("file", "abc");
+    const auto use = [](const wchar_t* mode, const char* text) {
+        std::FILE* const file = _wfopen(L"FILE", mode);
+        if (!file)
+            return false;
+        const bool done = std::fputs(text, file) >= 0 && std::fflush(file) == 0;
+        std::fclose(file);
+        return done;
+    };
+    EXPECT_FALSE(use(L"r", "d"));
+    EXPECT_TRUE(use(L"r+", "d"));
+    EXPECT_EQ(device_.Read("file"), "dbc");
+    EXPECT_TRUE(use(L"a", "\r\n"));
+    EXPECT_EQ(device_.Read("file"), "dbc\r\n");
+    EXPECT_FALSE(use(L"wx", "e")) << "it exists";
+    EXPECT_TRUE(use(L"w+t", "e\n"));
+    EXPECT_EQ(device_.Read("file"), "e\n");
+}
+
+TEST_F(FileCallsTest, OpensAFileThatIsOpen) {
+    std::FILE* const writer = _wfopen(L"file", L"wb");
+    ASSERT_NE(writer, nullptr);
+    std::fputs("abc", writer);
+    std::fflush(writer);
+    std::FILE* const reader = _wfopen(L"file", L"rb");
+    ASSERT_NE(reader, nullptr);
+    EXPECT_EQ(std::fgetc(reader), 'a');
+    EXPECT_TRUE(DeleteFileW(L"file"));
+    std::fclose(reader);
+    std::fclose(writer);
+    EXPECT_EQ(GetFileAttributesW(L"file"), INVALID_FILE_ATTRIBUTES);
 }
 
 TEST_F(FileCallsTest, RefusesMissingNames) {

@@ -16,7 +16,7 @@ class LibraryTest : public testing::Test {
     LibraryTest() {
         device_.Write("NandFlash/Application/bin/broken.dll", "no library");
         std::filesystem::copy_file(KORVANE_TEST_MODULE,
-                                   device_.Path() + "/NandFlash/Application/bin/lq_sharemem.DLL");
+                                   device_.At("NandFlash/Application/bin/lq_sharemem.DLL"));
     }
     DeviceFolder device_;
 };

@@ -37,9 +37,9 @@ class PluggedMedia : public testing::Test {
 
 TEST_F(PluggedMedia, TakeThePlaceOfAFolderInTheRoot) {
     device_.Write("USB/beneath");
-    EXPECT_EQ(ToHostPath(L"\\USB"), stick_);
-    EXPECT_EQ(ToHostPath(L"\\usb\\New.txt"), stick_ + "/New.txt");
-    EXPECT_EQ(ToHostPath(L"\\NandFlash\\..\\Usb"), stick_);
+    EXPECT_EQ(HostPath(L"\\USB"), std::filesystem::u8path(stick_));
+    EXPECT_EQ(HostPath(L"\\usb\\New.txt"), std::filesystem::u8path(stick_ + "/New.txt"));
+    EXPECT_EQ(HostPath(L"\\NandFlash\\..\\Usb"), std::filesystem::u8path(stick_));
     EXPECT_EQ(FirstNameIn(L"\\USB\\*"), L"");
 }
 
@@ -51,20 +51,20 @@ TEST_F(PluggedMedia, AreReadAndWrittenAsTheRestOfTheDevice) {
 }
 
 TEST_F(PluggedMedia, StandNowhereElse) {
-    EXPECT_EQ(ToHostPath(L"\\Folder\\USB"), device_.Path() + "/Folder/USB");
-    EXPECT_EQ(ToHostPath(L"\\USB2"), device_.Path() + "/USB2");
-    EXPECT_EQ(ToHostPath(L"\\USB\\..\\.."), device_.Path());
-    EXPECT_EQ(ToHostPath(L"\\USB\\..\\..\\USB"), stick_);
+    EXPECT_EQ(HostPath(L"\\Folder\\USB"), device_.At("Folder/USB"));
+    EXPECT_EQ(HostPath(L"\\USB2"), device_.At("USB2"));
+    EXPECT_EQ(HostPath(L"\\USB\\..\\.."), std::filesystem::u8path(device_.Path()));
+    EXPECT_EQ(HostPath(L"\\USB\\..\\..\\USB"), std::filesystem::u8path(stick_));
 }
 
 TEST_F(PluggedMedia, ArePulledOut) {
     PlugMedium(L"usb", "");
-    EXPECT_EQ(ToHostPath(L"\\USB"), device_.Path() + "/USB");
+    EXPECT_EQ(HostPath(L"\\USB"), device_.At("USB"));
 }
 
 TEST_F(PluggedMedia, AreReplacedByTheNextOne) {
     PlugMedium(L"usb", device_.Path());
-    EXPECT_EQ(ToHostPath(L"\\USB\\a"), device_.Path() + "/a");
+    EXPECT_EQ(HostPath(L"\\USB\\a"), device_.At("a"));
 }
 
 TEST_F(PluggedMedia, MayVanish) {

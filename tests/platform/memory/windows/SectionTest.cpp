@@ -42,11 +42,6 @@ TEST_F(Section, WithoutMemoryIsRefused) {
     EXPECT_EQ(Map(10), nullptr);
 }
 
-TEST_F(Section, ThatCannotBeWrittenToIsRefused) {
-    const Handle section = MakeSection(PAGE_READONLY, 100000);
-    EXPECT_EQ(Map(10), nullptr);
-}
-
 TEST_F(Section, IsNoneWhereTheNameIsThatOfAnotherObject) {
     const Handle event(CreateEventW(nullptr, TRUE, FALSE, ObjectName().c_str()));
     ASSERT_TRUE(event.IsOpen());
