@@ -1,5 +1,6 @@
 #include "tests/demo/DemoScene.h"
 
+#include <algorithm>
 #include <functional>
 
 #include "KorvaneEx.h"
@@ -61,11 +62,19 @@ DemoScene::~DemoScene() {
     RemoveSharedMemory();
 }
 
+std::vector<std::wstring> DemoScene::Labels() const {
+    std::vector<std::wstring> texts;
+    FindOnScreen([&texts](CLQBaseCtrl& ctrl) {
+        if (auto* const label = dynamic_cast<CLQStatic*>(&ctrl))
+            texts.push_back(label->GetText());
+        return false;
+    });
+    return texts;
+}
+
 bool DemoScene::Shows(const std::wstring& text) const {
-    return FindOnScreen([&text](CLQBaseCtrl& ctrl) {
-               auto* const label = dynamic_cast<CLQStatic*>(&ctrl);
-               return label && label->GetText() == text;
-           }) != nullptr;
+    const std::vector<std::wstring> texts = Labels();
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
 
 CLQBaseCtrl* DemoScene::FindControl(const wchar_t* name) const {

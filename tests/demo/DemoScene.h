@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "tests/support/Scene.h"
 
@@ -13,7 +14,9 @@ class DemoScene : public Scene {
     DemoScene();
     ~DemoScene();
 
-    /// Whether a label that is shown, on any window, has this text.
+    /// The texts of all labels that are shown, on any window.
+    std::vector<std::wstring> Labels() const;
+    /// Whether one of them is this one.
     bool Shows(const std::wstring& text) const;
     /// A control of that name that is shown, on any window; null without one.
     CLQBaseCtrl* FindControl(const wchar_t* name) const;

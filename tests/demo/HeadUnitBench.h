@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <gtest/gtest.h>
 #include <optional>
+#include <vector>
 
 #include "demo/headunit/HeadUnit.h"
 #include "demo/mainapp/MainApplication.h"
@@ -17,6 +19,16 @@ struct Place {
 };
 constexpr Place kBackButton = {100, 30};
 constexpr Place kMenuButton = {88, 453};
+
+/// What a head unit shows whose top-left corner is there on the screen, row by row.
+inline std::vector<std::uint32_t> PixelsIn(const test::Scene& scene, Place corner) {
+    std::vector<std::uint32_t> pixels;
+    for (int y = 0; y < HeadUnit::kHeight; ++y) {
+        for (int x = 0; x < HeadUnit::kWidth; ++x)
+            pixels.push_back(scene.PixelAt(corner.x + x, corner.y + y));
+    }
+    return pixels;
+}
 
 /// The head unit with the main application in its own process.
 class HeadUnitBench : public testing::Test {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "demo/headunit/Captions.h"
+#include "demo/headunit/files/FittedName.h"
 #include "demo/headunit/files/Music.h"
 #include "demo/headunit/files/SizeText.h"
 
@@ -11,6 +12,12 @@ namespace korvane::demo {
 namespace {
 
 constexpr int kLookMs = 1000;
+/// The view's labels, whose text does not scroll.
+constexpr int kViewLeft = 170;
+constexpr int kViewWidth = 460;
+constexpr int kLabelWidth = kViewWidth - 10;
+constexpr int kLargeText = 22;
+constexpr int kSmallText = 16;
 constexpr wchar_t kMedium[] = L"\\USB";
 constexpr wchar_t kMediumName[] = L"MY USB";
 
@@ -67,7 +74,7 @@ void FilesScreen::CreateView() {
 
     view_.SetRootName(kMediumName);
     // Before it gets a window: the view places its middle label by where its icon is on the screen.
-    view_.Create(170, 60, 460, 410);
+    view_.Create(kViewLeft, 60, kViewWidth, 410);
     // The callback gets no context.
     void (*const onRequest)(int) = [](int request) {
         if (instance_)
@@ -165,7 +172,7 @@ void FilesScreen::ShowHint() {
 
 std::wstring FilesScreen::Label(int offset) const {
     if (const FolderEntry* const entry = browser_.EntryAt(offset))
-        return entry->name;
+        return FittedName(entry->name, offset == 0 ? kLargeText : kSmallText, kLabelWidth);
     const std::wstring caption = CLQLangManager::GetInstance()->GetString(kCaptionFolderAbove);
     return caption.empty() ? L".." : caption;
 }

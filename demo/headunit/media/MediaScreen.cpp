@@ -10,12 +10,6 @@ namespace {
 
 constexpr int kTransportTop = 268;
 constexpr int kRepeatTop = 364;
-/// Three buttons side by side, in the middle of the screen.
-constexpr int kButtonWidth = 136;
-constexpr int kButtonHeight = 84;
-constexpr int ButtonLeft(int column) {
-    return 182 + 150 * column;
-}
 
 _LQColor Grey() {
     return {159, 180, 208, 255};
@@ -34,6 +28,13 @@ void SetPicture(CLQButton& button, const std::wstring& picture) {
     button.SetImagePath(0, eImage_Pressed, (picture + L"_p.lqi").c_str());
     button.SetImagePath(0, eImage_Focus, (picture + L"_f.lqi").c_str());
     button.SetImagePath(0, eImage_Disabled, (picture + L"_d.lqi").c_str());
+}
+
+/// One of three side by side, in the middle of the screen.
+void PlaceButton(CLQButton& button, int column, int top, const wchar_t* picture) {
+    button.Create(182 + 150 * column, top, 136, 84);
+    SetPicture(button, picture);
+    button.EnableFocus(true);
 }
 
 }  // namespace
@@ -85,37 +86,25 @@ void MediaScreen::CreateProgress() {
 }
 
 void MediaScreen::CreateTransportButtons() {
-    previous_.Create(ButtonLeft(0), kTransportTop, kButtonWidth, kButtonHeight);
-    SetPicture(previous_, L"media_previous");
+    PlaceButton(previous_, 0, kTransportTop, L"media_previous");
     previous_.AddCallBack(kEventReleased, this, &MediaScreen::OnPrevious);
-    AddChild(&previous_);
-
-    play_.Create(ButtonLeft(1), kTransportTop, kButtonWidth, kButtonHeight);
-    SetPicture(play_, L"media_pause");
+    PlaceButton(play_, 1, kTransportTop, L"media_pause");
     play_.AddCallBack(kEventReleased, this, &MediaScreen::OnPlay);
-    AddChild(&play_);
-
-    next_.Create(ButtonLeft(2), kTransportTop, kButtonWidth, kButtonHeight);
-    SetPicture(next_, L"media_next");
+    PlaceButton(next_, 2, kTransportTop, L"media_next");
     next_.AddCallBack(kEventReleased, this, &MediaScreen::OnNext);
-    AddChild(&next_);
+    for (CLQButton* const button : {&previous_, &play_, &next_})
+        AddChild(button);
 }
 
 void MediaScreen::CreateRepeatButtons() {
-    repeatStart_.Create(ButtonLeft(0), kRepeatTop, kButtonWidth, kButtonHeight);
-    SetPicture(repeatStart_, L"media_a");
+    PlaceButton(repeatStart_, 0, kRepeatTop, L"media_a");
     repeatStart_.AddCallBack(kEventReleased, this, &MediaScreen::OnRepeatStart);
-    AddChild(&repeatStart_);
-
-    repeatEnd_.Create(ButtonLeft(1), kRepeatTop, kButtonWidth, kButtonHeight);
-    SetPicture(repeatEnd_, L"media_b");
+    PlaceButton(repeatEnd_, 1, kRepeatTop, L"media_b");
     repeatEnd_.AddCallBack(kEventReleased, this, &MediaScreen::OnRepeatEnd);
-    AddChild(&repeatEnd_);
-
-    repeatCancel_.Create(ButtonLeft(2), kRepeatTop, kButtonWidth, kButtonHeight);
-    SetPicture(repeatCancel_, L"media_cancel");
+    PlaceButton(repeatCancel_, 2, kRepeatTop, L"media_cancel");
     repeatCancel_.AddCallBack(kEventReleased, this, &MediaScreen::OnRepeatCancel);
-    AddChild(&repeatCancel_);
+    for (CLQButton* const button : {&repeatStart_, &repeatEnd_, &repeatCancel_})
+        AddChild(button);
 }
 
 void MediaScreen::ChangeLanguage() {

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <string>
 #include <vector>
 
 #include "KorvaneEx.h"
@@ -34,6 +35,14 @@ class FilesScreenTest : public HeadUnitBench {
     }
     void SwipeUp() { Swipe({kIconX, kIconY + 40}, {kIconX, kIconY - 40}); }
     void SwipeDown() { Swipe({kIconX, kIconY - 40}, {kIconX, kIconY + 40}); }
+    std::vector<std::wstring> ShortenedNames() {
+        std::vector<std::wstring> names;
+        for (const std::wstring& text : scene_.Labels()) {
+            if (!text.empty() && text.back() == L'\u2026')
+                names.push_back(text);
+        }
+        return names;
+    }
     testing::AssertionResult LooksLike(const char* name) {
         return test::MatchesReference(CLQScreen::GetInstance()->GetScreenSurfHandle(), name);
     }
@@ -68,6 +77,25 @@ TEST_F(FilesScreenTest, ShowsAnEntryBetweenItsNeighbours) {
     Touch(kUpArrow);
     EXPECT_TRUE(scene_.Shows(L"4/5"));
     EXPECT_TRUE(scene_.Shows(L"48.2 kB"));
+}
+
+TEST_F(FilesScreenTest, EndsLongNamesInAnEllipsis) {
+    const std::wstring name =
+        L"A name that is longer than the view is wide, whatever the size of its text is";
+    stick_.Write(std::string(name.begin(), name.end()) + ".txt");
+    stick_.Write("B.txt");
+    OpenFiles();
+    std::vector<std::wstring> shown = ShortenedNames();
+    ASSERT_EQ(shown.size(), 1u);
+    EXPECT_EQ(name.compare(0, shown[0].size() - 1, shown[0], 0, shown[0].size() - 1), 0);
+    CLQFont* const font = CLQFontManager::GetInstance()->GetFont(L"msyh");
+    font->SetFontSize(22, 22);
+    EXPECT_LE(font->GetStringWidth(shown[0].c_str(), false), 450);
+    EXPECT_GT(font->GetStringWidth(shown[0].c_str(), false), 420);
+    // The neighbours' text is smaller.
+    Touch(kDownArrow);
+    ASSERT_EQ(ShortenedNames().size(), 2u) << "above and below, in a ring of two";
+    EXPECT_GT(ShortenedNames()[0].size(), shown[0].size());
 }
 
 TEST_F(FilesScreenTest, StepsWithArrowsAndSwipes) {
@@ -276,6 +304,27 @@ TEST_F(FilesScreenTest, PaintsNothingWhileNothingHappens) {
     CLQScreen::GetInstance()->ResetCounters();
     scene_.Advance(10 * kSecondMs);
     EXPECT_EQ(CLQScreen::GetInstance()->GetCounters().paints, 0u);
+}
+
+TEST(FilesScreenOnALargeScreen, LooksAsItDoesOnItsOwn) {
+    const auto open = [](test::DemoScene& scene, Place corner) {
+        HeadUnit headUnit;
+        headUnit.Create(corner.x, corner.y);
+        for (const Place& place : {kMenuButton, kFilesTile, kDownArrow})
+            scene.Touch(corner.x + place.x, corner.y + place.y);
+        EXPECT_TRUE(scene.Shows(L"2/3"));
+        return PixelsIn(scene, corner);
+    };
+    test::DemoScene scene;
+    for (const char* const name : {"A/x", "B/x", "C/x"})
+        test::Stick(scene.DeviceFolder()).Write(name);
+    tools::SystemService service;
+    ASSERT_TRUE(service.SetValue(L"usbPresent", 1));
+    const std::vector<std::uint32_t> alone = open(scene, {0, 0});
+    CLQScreen* const screen = CLQScreen::GetInstance();
+    screen->Close();
+    ASSERT_TRUE(screen->Open("memory", 1000, 700, L"large"));
+    EXPECT_TRUE(open(scene, {130, 110}) == alone);
 }
 
 }  // namespace korvane::demo

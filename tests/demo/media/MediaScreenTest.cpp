@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <string>
 #include <vector>
 
 #include "KorvaneEx.h"
@@ -34,33 +36,12 @@ class MediaScreenTest : public HeadUnitBench {
     void Seek(int second) { Touch({ThumbX(second), kTrackRow}); }
     /// Both in the middle of the screen and in the strip.
     bool ShowsTime(const wchar_t* time) { return CountLabels(time) == 2; }
-    int CountLabels(const std::wstring& text) {
-        int count = 0;
-        CLQScreen* const screen = CLQScreen::GetInstance();
-        for (int i = 0; i < screen->GetWindowCount(); ++i)
-            count += CountLabels(*screen->GetWindow(i), text);
-        return count;
+    long CountLabels(const std::wstring& text) {
+        const std::vector<std::wstring> texts = scene_.Labels();
+        return std::count(texts.begin(), texts.end(), text);
     }
     testing::AssertionResult LooksLike(const char* name) {
         return test::MatchesReference(CLQScreen::GetInstance()->GetScreenSurfHandle(), name);
-    }
-
-  private:
-    static int CountLabels(CLQWindow& window, const std::wstring& text) {
-        int count = 0;
-        for (int i = 0; window.IsShow() && i < window.GetChildCount(); ++i)
-            count += CountLabels(window.GetChild(i), text);
-        return count;
-    }
-    static int CountLabels(CLQBaseCtrl* ctrl, const std::wstring& text) {
-        if (!ctrl->IsOwnerShow())
-            return 0;
-        auto* const label = dynamic_cast<CLQStatic*>(ctrl);
-        int count = label && label->GetText() == text ? 1 : 0;
-        auto* const group = dynamic_cast<CLQGroupCtrl*>(ctrl);
-        for (int i = 0; group && i < group->GetChildCount(); ++i)
-            count += CountLabels(group->GetChild(i), text);
-        return count;
     }
 };
 
@@ -272,7 +253,7 @@ TEST_F(MediaScreenTest, PlaysOnBehindAnotherScreen) {
     PlayDisc();
     Touch(kMenuButton);
     EXPECT_TRUE(scene_.Shows(L"Menu"));
-    const int before = CountLabels(L"0:30");
+    const long before = CountLabels(L"0:30");
     scene_.Advance(30 * kSecondMs);
     EXPECT_EQ(CountLabels(L"0:30"), before + 1) << "in the strip";
     Touch(kBackButton);
@@ -293,6 +274,15 @@ TEST_F(MediaScreenTest, SpeaksTheLanguageOfTheRecord) {
     EXPECT_TRUE(scene_.Shows(L"Harbour Lights at Dawn"));
 }
 
+TEST_F(MediaScreenTest, FollowsTheKeysInCursorMode) {
+    PlayDisc();
+    SetCursorState(true);
+    for (const int key : {VK_RIGHT, VK_RIGHT, VK_RETURN})
+        scene_.Key(key);
+    SetCursorState(false);
+    EXPECT_TRUE(scene_.Shows(L"Pause"));
+}
+
 TEST_F(MediaScreenTest, PaintsOnceASecondAndNotWhileItRests) {
     PlayDisc();
     scene_.Advance(kSecondMs);
@@ -305,33 +295,24 @@ TEST_F(MediaScreenTest, PaintsOnceASecondAndNotWhileItRests) {
     EXPECT_EQ(CLQScreen::GetInstance()->GetCounters().paints, 0u);
 }
 
-TEST(MediaScreenOnALargeScreen, HasItsMarksAndItsTrackInTheMiddle) {
+TEST(MediaScreenOnALargeScreen, LooksAsItDoesOnItsOwn) {
+    const auto repeat = [](test::DemoScene& scene, Place corner) {
+        HeadUnit headUnit;
+        headUnit.Create(corner.x, corner.y);
+        for (const Place& place : {Place{ThumbX(60), kTrackRow}, kRepeatStart, Place{ThumbX(202), kTrackRow},
+                                   kRepeatEnd, Place{ThumbX(140), kTrackRow}})
+            scene.Touch(corner.x + place.x, corner.y + place.y);
+        EXPECT_TRUE(scene.Shows(L"A-B repeat"));
+        return PixelsIn(scene, corner);
+    };
     test::DemoScene scene;
+    tools::SystemService service;
+    ASSERT_TRUE(service.SetValue(L"source", kDisc));
+    const std::vector<std::uint32_t> alone = repeat(scene, {0, 0});
     CLQScreen* const screen = CLQScreen::GetInstance();
     screen->Close();
     ASSERT_TRUE(screen->Open("memory", 1000, 700, L"large"));
-    constexpr Place kCorner = {130, 110};
-    tools::SystemService service;
-    ASSERT_TRUE(service.SetValue(L"source", kDisc));
-    HeadUnit headUnit;
-    headUnit.Create(kCorner.x, kCorner.y);
-    scene.Pump();
-    const auto touch = [&scene, kCorner](Place place) {
-        scene.Touch(kCorner.x + place.x, kCorner.y + place.y);
-    };
-    const auto mark = [&scene, kCorner](int second) {
-        return scene.PixelAt(kCorner.x + ThumbX(second) - 8 - 10, kCorner.y + 165);
-    };
-    const std::uint32_t dark = mark(60);
-    touch({ThumbX(60), kTrackRow});
-    EXPECT_TRUE(scene.Shows(L"1:00"));
-    touch(kRepeatStart);
-    EXPECT_NE(mark(60), dark);
-    const std::uint32_t darkAtTheEnd = mark(202);
-    touch({ThumbX(202), kTrackRow});
-    touch(kRepeatEnd);
-    EXPECT_NE(mark(202), darkAtTheEnd);
-    EXPECT_TRUE(scene.Shows(L"A-B repeat"));
+    EXPECT_TRUE(repeat(scene, {130, 110}) == alone);
 }
 
 }  // namespace korvane::demo
