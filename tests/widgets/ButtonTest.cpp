@@ -209,7 +209,7 @@ TEST_F(Button, KeepsNoMoreElementsThanItsBound) {
     auto last = std::make_unique<CLQImageElement>();
     EXPECT_FALSE(button->AddGUIElement(last.get()));
     button->SetText(L"no room");
-    EXPECT_EQ(button->GetGUIElementCount(), CLQButton::kMaxElements);
+    EXPECT_EQ(button->GetGUIElementCount(), int{CLQButton::kMaxElements});
 }
 
 TEST_F(Button, GivesItsCopyElementsOfItsOwn) {

@@ -203,12 +203,12 @@ TEST_F(MenuItemPaint, TakesAnyPlace) {
     tile.SetTextSurf(L"Text.lqi");
     tile.SetRectAshSurf(L"Ash.lqi");
     tile.EnableRectAshSurf(true);
-    for (const int far : {kMin, kMin + 1, kMax - 1, kMax}) {
-        tile.SetImagePos(far, far);
-        tile.SetTextPos(far, far);
-        tile.SetBorderSurf(piece, far, far, eBorder_Left);
-        if (far > 0)
-            EXPECT_EQ(LooksOf(tile), TileDrawing().Pixels()) << far;
+    for (const int place : {kMin, kMin + 1, kMax - 1, kMax}) {
+        tile.SetImagePos(place, place);
+        tile.SetTextPos(place, place);
+        tile.SetBorderSurf(piece, place, place, eBorder_Left);
+        if (place > 0)
+            EXPECT_EQ(LooksOf(tile), TileDrawing().Pixels()) << place;
         else
             LooksOf(tile);
     }
