@@ -1,5 +1,7 @@
 #include "demo/headunit/HeadUnit.h"
 
+#include <utility>
+
 #include "demo/headunit/Captions.h"
 #include "demo/headunit/LanguageFile.h"
 #include "demo/headunit/ScreenSlide.h"

@@ -128,6 +128,8 @@ void FilesScreen::ShowEntries() {
         ShowNothing();
         return;
     }
+    // Both arrows show, unless there is nowhere to go: the view takes a swipe one way only while the arrow of
+    // the other way shows.
     const bool isAlone = browser_.EntryCount() == 1;
     const std::wstring above = isAlone ? L"" : Label(-1);
     const std::wstring below = isAlone ? L"" : Label(1);

@@ -114,6 +114,7 @@ void MediaScreen::ChangeLanguage() {
 }
 
 void MediaScreen::PlaySource(const Source& source) {
+    Rest();
     source_ = &source;
     player_ = &players_.try_emplace(source.id, TracksOf(source.id)).first->second;
     caughtUpMs_ = GetCurrentMS();
@@ -123,13 +124,18 @@ void MediaScreen::PlaySource(const Source& source) {
 
 void MediaScreen::Rest() {
     timer_.StopTimer();
+    if (player_)
+        CatchUp();
     player_ = nullptr;
 }
 
 void MediaScreen::InsertTracks(int source, Tracks tracks, std::size_t first) {
+    const bool isPlaying = player_ && source_->id == source;
+    if (isPlaying)
+        Rest();
     Player& player = players_.insert_or_assign(source, Player(std::move(tracks))).first->second;
     player.ChooseTrack(first);
-    if (player_ == &player)
+    if (isPlaying)
         PlaySource(*source_);
 }
 

@@ -249,6 +249,18 @@ TEST_F(MediaScreenTest, KeepsThePlaceInEachMedium) {
     EXPECT_TRUE(ShowsTime(L"0:10"));
 }
 
+TEST_F(MediaScreenTest, KeepsItsPlaceToTheFractionOfASecond) {
+    PlayDisc();
+    Seek(60);
+    scene_.Advance(500);
+    Set(L"source", 0);
+    scene_.Advance(10 * kSecondMs);
+    PlayDisc();
+    EXPECT_TRUE(ShowsTime(L"1:00"));
+    scene_.Advance(500);
+    EXPECT_TRUE(ShowsTime(L"1:01"));
+}
+
 TEST_F(MediaScreenTest, PlaysOnBehindAnotherScreen) {
     PlayDisc();
     Touch(kMenuButton);
