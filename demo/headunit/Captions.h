@@ -90,6 +90,9 @@ enum Caption : int {
     kCaptionLanguage = 90,
     kCaptionClock24h = 91,
     kCaptionShortcuts = 92,
+    kCaptionTrafficAnnouncements = 93,
+    kCaptionAlternativeFrequencies = 94,
+    kCaptionMute = 95,
 
     // Sources that are not simulated, or not there
     kCaptionNotConnected = 100,
@@ -98,6 +101,20 @@ enum Caption : int {
     kCaptionNoNavigation = 103,
     kCaptionNoPicture = 104,
     kCaptionAudioIsOff = 105,
+
+    // Languages, each in its own
+    kCaptionGerman = 110,
+    kCaptionEnglish = 111,
+    kCaptionSpanish = 112,
+    kCaptionFrench = 113,
+    kCaptionItalian = 114,
+    kCaptionDutch = 115,
+    kCaptionPolish = 116,
+    kCaptionPortuguese = 117,
+    kCaptionSwedish = 118,
+    kCaptionGreek = 119,
+    kCaptionChinese = 120,
+    kCaptionJapanese = 121,
 };
 
 }  // namespace korvane::demo

@@ -5,6 +5,7 @@
 #include "demo/headunit/Captions.h"
 #include "demo/headunit/LanguageFile.h"
 #include "demo/headunit/ScreenSlide.h"
+#include "demo/mainapp/SettingMessage.h"
 
 namespace korvane::demo {
 
@@ -47,6 +48,7 @@ void HeadUnit::Create(int x, int y) {
     menu_.WhenChosen([this](MenuItem item) { OnMenu(item); });
     menu_.WhenRearranged([this] { ShowTitle(); });
     sources_.WhenChosen([this](int id) { ChooseSource(id); });
+    settings_.WhenChosen([this](SysInfoItem item, int value) { ChooseSetting(item, value); });
     media_.WhenTimePasses([this](int seconds) { strip_.ShowPlayTime(seconds); });
     files_.WhenMusicOpened([this](Tracks tracks, std::size_t first) { PlayFiles(std::move(tracks), first); });
     files_.WhenFolderGone([this] { strip_.ShowNotice(kCaptionFolderGone); });
@@ -54,12 +56,14 @@ void HeadUnit::Create(int x, int y) {
     strip_.WhenSystemChanged([this](int item) { OnSystemChanged(item); });
     ShowZone();
     ShowStick();
+    settings_.ShowRecord(record_);
     ShowScreen(Screen::Player);
     ShowSource();
+    ShowPresence();
 }
 
 std::vector<CLQWindow*> HeadUnit::Screens() {
-    return {&radio_, &presets_, &media_, &other_, &menu_, &sources_, &gauges_, &files_};
+    return {&radio_, &presets_, &media_, &other_, &menu_, &sources_, &gauges_, &files_, &settings_};
 }
 
 void HeadUnit::OnSystemChanged(int item) {
@@ -83,6 +87,8 @@ void HeadUnit::OnSystemChanged(int item) {
         default:
             break;
     }
+    ShowPresence();
+    settings_.ShowRecord(record_);
 }
 
 void HeadUnit::OnBack() {
@@ -101,6 +107,7 @@ void HeadUnit::OnBack() {
             break;
         case Screen::Sources:
         case Screen::Gauges:
+        case Screen::Settings:
             SlideTo(Screen::Menu);
             break;
         case Screen::Files:
@@ -128,6 +135,7 @@ void HeadUnit::OnMenu(MenuItem item) {
             SlideTo(Screen::Files);
             break;
         case MenuItem::Settings:
+            SlideTo(Screen::Settings);
             break;
     }
 }
@@ -154,6 +162,13 @@ void HeadUnit::PlayFiles(Tracks tracks, std::size_t first) {
     ChooseSource(kUsbMusicSource);
 }
 
+/// Asks for a setting. It shows when the record has it.
+void HeadUnit::ChooseSetting(SysInfoItem item, int value) {
+    const HWND mainWindow = FindWindowW(nullptr, kMainWindowName);
+    if (mainWindow)
+        PostMessageW(mainWindow, kMainSettingChosen, static_cast<WPARAM>(item), value);
+}
+
 /// Tells that a phone has come.
 void HeadUnit::ShowPhone() {
     const bool isThere = record_ && record_->btState != 0;
@@ -173,6 +188,12 @@ void HeadUnit::ShowZone() {
 
 void HeadUnit::ShowStick() {
     files_.PlugIn(FindSource(kUsbMusicSource)->IsPresent(record_));
+}
+
+/// Dims what the menu would lead to in vain.
+void HeadUnit::ShowPresence() {
+    menu_.ShowPresence(MenuItem::Media, FindSource(lastMedium_)->IsPresent(record_));
+    menu_.ShowPresence(MenuItem::Files, FindSource(kUsbMusicSource)->IsPresent(record_));
 }
 
 void HeadUnit::ShowSource() {
@@ -264,6 +285,8 @@ CLQWindow& HeadUnit::ShownWindow() {
             return gauges_;
         case Screen::Files:
             return files_;
+        case Screen::Settings:
+            return settings_;
         case Screen::Player:
             break;
     }
@@ -304,6 +327,8 @@ int HeadUnit::Title() const {
             return kCaptionGauges;
         case Screen::Files:
             return kCaptionFiles;
+        case Screen::Settings:
+            return kCaptionSettings;
     }
     return kCaptionTuner;
 }

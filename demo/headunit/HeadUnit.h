@@ -15,6 +15,7 @@
 #include "demo/headunit/radio/PresetsScreen.h"
 #include "demo/headunit/radio/RadioScreen.h"
 #include "demo/headunit/radio/Tuner.h"
+#include "demo/headunit/settings/SettingsScreen.h"
 #include "demo/headunit/sources/SourcesScreen.h"
 
 namespace korvane::demo {
@@ -37,7 +38,7 @@ class HeadUnit {
 
   private:
     /// In their order from what plays inwards.
-    enum class Screen { Player, Presets, Menu, Sources, Gauges, Files };
+    enum class Screen { Player, Presets, Menu, Sources, Gauges, Files, Settings };
 
     std::vector<CLQWindow*> Screens();
     void OnSystemChanged(int item);
@@ -45,12 +46,14 @@ class HeadUnit {
     void OnMenu(MenuItem item);
     void ChooseSource(int id);
     void PlayFiles(Tracks tracks, std::size_t first);
+    void ChooseSetting(SysInfoItem item, int value);
 
     void ShowPhone();
     void ShowLanguage();
     void ShowZone();
     void ShowStick();
     void ShowSource();
+    void ShowPresence();
     bool SlidesTo(const Source& source) const;
     void ShowScreen(Screen screen);
     void SlideTo(Screen screen);
@@ -83,6 +86,7 @@ class HeadUnit {
     SourcesScreen sources_;
     GaugesScreen gauges_;
     FilesScreen files_;
+    SettingsScreen settings_;
     TitleStrip strip_;
 };
 

@@ -64,6 +64,16 @@ constexpr int ListCellY(int cell) {
     return 110 + 80 * cell;
 }
 
+/// Those of the list of languages.
+constexpr int LanguageY(int cell) {
+    return 105 + 56 * cell;
+}
+constexpr int kSwitchX = 550;
+/// The switches of the settings, from the top.
+constexpr int SwitchY(int row) {
+    return 124 + 96 * row;
+}
+
 /// The tiles of the menu from the left, in the upper row and the lower one.
 constexpr int TileX(int column) {
     return 141 + 259 * column;
@@ -242,6 +252,19 @@ void ShowFiles(TourScript& tour) {
     tour.Set(L"usbPresent", 1).Set(L"language", 0).Touch(kBackX, kStripY).Touch(kBackX, kStripY);
 }
 
+void ShowSettings(TourScript& tour) {
+    tour.Touch(kMenuX, kMenuY).Touch(TileX(2), kLowerTileY).Picture("settings");
+    tour.Press(kListX, LanguageY(3)).Picture("settings-french-pressed").Release(kListX, LanguageY(3));
+    tour.Picture("settings-french").Touch(kListX, LanguageY(6)).Press(kSwitchX, SwitchY(0));
+    tour.Picture("settings-clock-pressed").Release(kSwitchX, SwitchY(0));
+    tour.Touch(kSwitchX, SwitchY(1)).Touch(kSwitchX, SwitchY(3)).Picture("settings-switched");
+    tour.Touch(kListX, LanguageY(4)).Picture("settings-chinese").Touch(kBackX, kStripY);
+    tour.Touch(TileX(2), kLowerTileY).Picture("settings-on-the-second-page").Set(L"language", 0);
+    for (const int row : {0, 1, 3})
+        tour.Touch(kSwitchX, SwitchY(row));
+    tour.Touch(kBackX, kStripY).Touch(kBackX, kStripY).Picture("settings-left");
+}
+
 }  // namespace
 
 TourScript HeadUnitTour() {
@@ -256,6 +279,7 @@ TourScript HeadUnitTour() {
     ShowSourceList(tour);
     ShowMedia(tour);
     ShowFiles(tour);
+    ShowSettings(tour);
     return tour;
 }
 

@@ -1,9 +1,13 @@
 #include "demo/mainapp/MainApplication.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <iterator>
 
 #include "platform/InterprocessLock.h"
+
+#include "demo/mainapp/SettingMessage.h"
 
 namespace korvane::demo {
 
@@ -41,6 +45,17 @@ constexpr FirstValue kFirstValues[] = {
     {L"tvPresent", 1},
     {L"naviPresent", 1},
     {L"aux1Present", 1},
+};
+
+/// A setting that the user may change, with its greatest value.
+struct Setting {
+    SysInfoItem item;
+    const wchar_t* field;
+    LPARAM most;
+};
+constexpr Setting kSettings[] = {
+    {kItemClockForm, L"clock24h", 1}, {kItemMute, L"mute", 1},           {kItemTa, L"taOn", 1},
+    {kItemAf, L"afState", 1},         {kItemLanguage, L"language", 255},
 };
 
 /// Nothing in it but what the service keeps across restarts.
@@ -103,6 +118,9 @@ void MainApplication::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         case kMainTitleButton:
             OnTitleButton(static_cast<TitleButton>(wParam));
             break;
+        case kMainSettingChosen:
+            OnSetting(wParam, lParam);
+            break;
         default:
             break;
     }
@@ -120,6 +138,14 @@ void MainApplication::OnTitleButton(TitleButton button) {
             service_.SetValue(L"source", kNavigation);
             break;
     }
+}
+
+void MainApplication::OnSetting(WPARAM item, LPARAM value) {
+    const Setting* const setting =
+        std::find_if(std::begin(kSettings), std::end(kSettings),
+                     [item](const Setting& known) { return static_cast<WPARAM>(known.item) == item; });
+    if (setting != std::end(kSettings) && value >= 0 && value <= setting->most)
+        service_.SetValue(setting->field, static_cast<int>(value));
 }
 
 void MainApplication::SoundBeep() {

@@ -7,7 +7,7 @@
 namespace korvane::demo {
 
 /// The head unit's main application, as far as the simulator needs it: a window that the controls find by its
-/// name. It sounds the key beep, switches sources and zones, and keeps the system record.
+/// name. It sounds the key beep, switches sources and zones, changes settings, and keeps the system record.
 class MainApplication {
   public:
     enum class KeyBeep { Sounding, Silent };
@@ -26,6 +26,7 @@ class MainApplication {
 
     void OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
     void OnTitleButton(TitleButton button);
+    void OnSetting(WPARAM item, LPARAM value);
     void SoundBeep();
     void FillFreshRecord();
 

@@ -144,6 +144,16 @@ TEST_P(LanguageTables, NameTheSixteenSourcesOfTheShortcutPanel) {
     }
 }
 
+TEST_P(LanguageTables, NameEachLanguageInItsOwnWords) {
+    const std::vector<Text> english = ReadTexts(LanguageFolder() / "English.lng");
+    ASSERT_EQ(texts_.size(), english.size());
+    for (std::size_t i = 0; i < texts_.size(); ++i) {
+        if (texts_[i].id >= kCaptionGerman && texts_[i].id <= kCaptionJapanese) {
+            EXPECT_EQ(texts_[i].value, english[i].value);
+        }
+    }
+}
+
 TEST_P(LanguageTables, FitTheControlsThatShowThem) {
     for (int id = kCaptionTuner; id <= kCaptionAudioOff; ++id)
         EXPECT_LE(Width(id, 18), 128) << "shortcut button: " << id;
@@ -152,6 +162,11 @@ TEST_P(LanguageTables, FitTheControlsThatShowThem) {
     EXPECT_LE(Width(kCaptionPresets, 22), 118) << "presets button";
     for (const int id : {kCaptionMore, kCaptionBack})
         EXPECT_LT(Width(id, 17), 240) << "cell that switches pages: " << id;
+    for (const int id :
+         {kCaptionClock24h, kCaptionTrafficAnnouncements, kCaptionAlternativeFrequencies, kCaptionMute})
+        EXPECT_LE(Width(id, 24), 292) << "switch of the settings: " << id;
+    for (int id = kCaptionGerman; id <= kCaptionJapanese; ++id)
+        EXPECT_LE(Width(id, 22), 150) << "list of languages: " << id;
     for (const int id : {kCaptionSwipeToSeek, kCaptionSeekingUp, kCaptionSeekingDown, kCaptionHoldToStore})
         EXPECT_LE(Width(id, 22), 400) << "line below the band: " << id;
     for (const int id : {kCaptionNowPlaying, kCaptionPause, kCaptionRepeat, kCaptionParkedOnly})

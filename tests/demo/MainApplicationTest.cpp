@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "demo/mainapp/MainApplication.h"
+#include "demo/mainapp/SettingMessage.h"
 #include "tests/demo/DemoScene.h"
 
 namespace korvane::demo {
@@ -63,6 +64,30 @@ TEST_F(MainApplicationTest, IgnoresButtonsThatThereAreNot) {
     const _LQSysInfo before = *service_.Record();
     for (const WPARAM button : {0u, 4u, 0xFFFFFFFFu})
         Post(kMainTitleButton, button, 0);
+    EXPECT_EQ(std::memcmp(&before, service_.Record(), sizeof before), 0);
+}
+
+TEST_F(MainApplicationTest, ChangesTheSettingsThatTheUserChooses) {
+    Post(kMainSettingChosen, kItemLanguage, 5);
+    EXPECT_EQ(Get(L"language"), 5);
+    Post(kMainSettingChosen, kItemClockForm, 0);
+    EXPECT_EQ(Get(L"clock24h"), 0);
+    Post(kMainSettingChosen, kItemMute, 1);
+    EXPECT_EQ(Get(L"mute"), 1);
+    Post(kMainSettingChosen, kItemTa, 0);
+    EXPECT_EQ(Get(L"taOn"), 0);
+    Post(kMainSettingChosen, kItemAf, 0);
+    EXPECT_EQ(Get(L"afState"), 0);
+}
+
+TEST_F(MainApplicationTest, ChangesNothingElseByTheMessageForSettings) {
+    const _LQSysInfo before = *service_.Record();
+    for (const WPARAM item : {WPARAM{0}, WPARAM{kItemGps}, WPARAM{kItemSource}, static_cast<WPARAM>(-1)})
+        Post(kMainSettingChosen, item, 1);
+    for (const LPARAM value : {LPARAM{-1}, LPARAM{2}, LPARAM{256}})
+        Post(kMainSettingChosen, kItemMute, value);
+    for (const LPARAM value : {LPARAM{-1}, LPARAM{256}, LPARAM{65541}})
+        Post(kMainSettingChosen, kItemLanguage, value);
     EXPECT_EQ(std::memcmp(&before, service_.Record(), sizeof before), 0);
 }
 

@@ -15,7 +15,6 @@ constexpr unsigned kSequenceMs = 8 * kImageMs;
 
 constexpr Place kRadioTile = {141, 168};
 constexpr Place kMediaTile = {400, 168};
-constexpr Place kSettingsTile = {659, 368};
 
 class MenuTest : public HeadUnitBench {
   protected:
@@ -114,7 +113,7 @@ TEST_F(MenuTest, MarksWhatPlays) {
     EXPECT_EQ(MediaMark(), plain);
 }
 
-TEST_F(MenuTest, DimsWhatIsNotThereAndLightsWhatIsPressed) {
+TEST_F(MenuTest, LightsWhatIsPressed) {
     Touch(kMenuButton);
     // The menu slid in for the time of the first image.
     scene_.Advance(2 * kImageMs);
@@ -122,10 +121,36 @@ TEST_F(MenuTest, DimsWhatIsNotThereAndLightsWhatIsPressed) {
     EXPECT_TRUE(test::MatchesReference(CLQScreen::GetInstance()->GetScreenSurfHandle(), "demo-menu-opened"));
 }
 
-TEST_F(MenuTest, DoesNothingForATileThatLeadsNowhere) {
+TEST_F(MenuTest, DimsWhatWouldLeadToNoDevice) {
     Touch(kMenuButton);
-    Touch(kSettingsTile);
-    EXPECT_TRUE(ShowsMenu());
+    const std::vector<std::uint32_t> bright = scene_.Pixels();
+    Set(L"usbPresent", 0);
+    EXPECT_TRUE(
+        test::MatchesReference(CLQScreen::GetInstance()->GetScreenSurfHandle(), "demo-menu-without-stick"));
+    Set(L"usbPresent", 1);
+    EXPECT_TRUE(scene_.Pixels() == bright);
+    Set(L"source", 4);
+    Set(L"usbPresent", 0);
+    Touch(kMenuButton);
+    const std::vector<std::uint32_t> disc = scene_.Pixels();
+    Set(L"discAudioPresent", 0);
+    EXPECT_FALSE(scene_.Pixels() == disc) << "the medium that played last counts";
+}
+
+TEST_F(MenuTest, PlaysNoPictureThatIsDimmed) {
+    Touch(kMenuButton);
+    const std::uint64_t all = PaintsInOneImage();
+    Set(L"usbPresent", 0);
+    EXPECT_LT(PaintsInOneImage(), all);
+    Touch(kBackButton);
+    Touch(kMenuButton);
+    EXPECT_LT(PaintsInOneImage(), all);
+    Set(L"usbPresent", 1);
+    EXPECT_EQ(PaintsInOneImage(), all);
+    Touch(kBackButton);
+    Set(L"usbPresent", 0);
+    Set(L"usbPresent", 1);
+    EXPECT_EQ(PaintsInOneImage(), 0u) << "while it is not shown";
 }
 
 TEST_F(MenuTest, PlaysItsPicturesWhileItIsShown) {

@@ -15,14 +15,13 @@ constexpr int kRowHeight = 200;
 struct Entry {
     MenuTile::Picture picture;
     int caption;
-    bool isThere;
 };
 
 /// In the order of MenuItem.
 constexpr Entry kEntries[] = {
-    {{L"menu_radio_%d.lqi", 8}, kCaptionRadio, true},  {{L"menu_media_%d.lqi", 8}, kCaptionMedia, true},
-    {{L"menu_sources.lqi", 1}, kCaptionSources, true}, {{L"menu_gauges_%d.lqi", 8}, kCaptionGauges, true},
-    {{L"menu_files.lqi", 1}, kCaptionFiles, true},     {{L"menu_settings.lqi", 1}, kCaptionSettings, false},
+    {{L"menu_radio_%d.lqi", 8}, kCaptionRadio},  {{L"menu_media_%d.lqi", 8}, kCaptionMedia},
+    {{L"menu_sources.lqi", 1}, kCaptionSources}, {{L"menu_gauges_%d.lqi", 8}, kCaptionGauges},
+    {{L"menu_files.lqi", 1}, kCaptionFiles},     {{L"menu_settings.lqi", 1}, kCaptionSettings},
 };
 
 }  // namespace
@@ -33,8 +32,6 @@ bool MenuScreen::OnInit() {
         const Entry& entry = kEntries[i];
         MenuTile& tile = tiles_[i];
         tile.SetUp(entry.picture, entry.caption);
-        if (!entry.isThere)
-            tile.DimOut();
         tile.AddCallBack(kEventLongPress, this, &MenuScreen::OnLongPress);
         AddChild(&tile);
     }
@@ -74,7 +71,7 @@ bool MenuScreen::DoCommand(_LQMessage* msg) {
 
 void MenuScreen::OnTouched(MenuItem item) {
     if (!isRearranging_) {
-        if (!TileOf(item).IsDesableState() && onChosen_)
+        if (onChosen_)
             onChosen_(item);
         return;
     }
@@ -128,6 +125,10 @@ void MenuScreen::PutDown() {
 void MenuScreen::TellRearranged() {
     if (onRearranged_)
         onRearranged_();
+}
+
+void MenuScreen::ShowPresence(MenuItem item, bool isThere) {
+    TileOf(item).ShowDimmed(!isThere);
 }
 
 void MenuScreen::MarkPlaying(MenuItem item, bool isPlaying) {

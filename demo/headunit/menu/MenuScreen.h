@@ -25,13 +25,16 @@ class MenuScreen : public CLQWindow {
     void SetShow(bool show) override;
     bool DoCommand(_LQMessage* msg) override;
 
-    /// Called when a tile was touched that leads somewhere.
+    /// Called when a tile was touched, also a dimmed one.
     void WhenChosen(std::function<void(MenuItem)> handler) { onChosen_ = std::move(handler); }
     /// Called at each step of rearranging the tiles, the first and the last ones included.
     void WhenRearranged(std::function<void()> handler) { onRearranged_ = std::move(handler); }
 
     /// Marks the tile of what is playing, if `isPlaying`, or takes its mark away.
     void MarkPlaying(MenuItem item, bool isPlaying);
+
+    /// Dims the tile of what is not there.
+    void ShowPresence(MenuItem item, bool isThere);
 
     bool IsRearranging() const { return isRearranging_; }
     /// Whether a tile is waiting for its new place.

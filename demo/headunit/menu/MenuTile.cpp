@@ -67,8 +67,16 @@ void MenuTile::AddCaption(int caption) {
     BindTextElement(text);
 }
 
-void MenuTile::DimOut() {
-    EnableDesableState(true);
+void MenuTile::Play(bool play) {
+    plays_ = play;
+    EnableImagePlay(plays_ && moves_ && !IsDesableState());
+}
+
+void MenuTile::ShowDimmed(bool dimmed) {
+    if (IsDesableState() == dimmed)
+        return;
+    EnableDesableState(dimmed);
+    Play(plays_);
     UpdateVeil();
 }
 

@@ -20,9 +20,9 @@ class MenuTile : public CLQMenuItemCtrl {
     /// yet.
     void SetUp(const Picture& picture, int caption);
     /// Lets the picture play, unless it consists of one image or is dimmed.
-    void Play(bool play) { EnableImagePlay(play && moves_ && !IsDesableState()); }
-    /// The look of a tile whose screen is not there.
-    void DimOut();
+    void Play(bool play);
+    /// The look of a tile that leads to something that is not there.
+    void ShowDimmed(bool dimmed);
 
     /// The look of a tile that can be moved: its picture stands still, and its frame has a handle.
     void ShowHandle(bool show);
@@ -35,6 +35,7 @@ class MenuTile : public CLQMenuItemCtrl {
     void UpdateVeil();
 
     bool moves_ = false;
+    bool plays_ = false;
     bool hasHandle_ = false;
     bool isInHand_ = false;
     CLQSurfHandle firstImage_;

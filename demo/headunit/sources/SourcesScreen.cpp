@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <vector>
 
 #include "demo/headunit/Captions.h"
 #include "demo/headunit/Source.h"
@@ -38,18 +39,6 @@ int CellOf(int source) {
     return found == std::end(kCells) ? kNone : static_cast<int>(found - std::begin(kCells));
 }
 
-/// Loads one look of all cells, and returns what the list borrows.
-std::vector<CLQSurfHandle*> LoadLook(std::vector<CLQSurfHandle>& icons, const wchar_t* look) {
-    for (const Cell& cell : kCells) {
-        const std::wstring file = std::wstring(cell.icon) + look;
-        icons.push_back(CLQSurfManager::GetInstance()->CreateSurface(file.c_str(), true));
-    }
-    std::vector<CLQSurfHandle*> borrowed;
-    for (CLQSurfHandle& icon : icons)
-        borrowed.push_back(&icon);
-    return borrowed;
-}
-
 }  // namespace
 
 SourcesScreen* SourcesScreen::instance_ = nullptr;
@@ -80,26 +69,15 @@ void SourcesScreen::CreateList() {
     list_.Create(60, top_ + 70, 240, 400);
     list_.SetBkgSurf(L"SwitchBkg.lqi");
     list_.SetIconNumPrePage(kCellsOfPage);
-    std::vector<CLQSurfHandle*> normal = LoadLook(icons_[0], L"_n.lqi");
-    std::vector<CLQSurfHandle*> active = LoadLook(icons_[1], L"_p.lqi");
-    std::vector<CLQSurfHandle*> focus = LoadLook(icons_[2], L"_f.lqi");
-    std::vector<CLQSurfHandle*> disabled = LoadLook(icons_[3], L"_d.lqi");
-    list_.SetIconNormalSurf(normal);
-    list_.SetIconActiveSurf(active);
-    list_.SetIconFocusSurf(focus);
-    list_.SetIconDisableSurf(disabled);
-
+    std::vector<std::wstring> icons;
     std::vector<int> captions;
-    for (const Cell& cell : kCells)
+    for (const Cell& cell : kCells) {
+        icons.emplace_back(cell.icon);
         captions.push_back(cell.caption);
+    }
+    looks_.GiveTo(list_, icons);
     list_.SetText(captions);
     list_.SetFontSize(17, 17);
-    _LQColor pale = {230, 238, 250, 255};
-    _LQColor white = {255, 255, 255, 255};
-    _LQColor amber = {255, 181, 74, 255};
-    list_.SetTextColor(eTextColor_Normal, pale);
-    list_.SetTextColor(eTextColor_Active, white);
-    list_.SetTextColor(eTextColor_Focus, amber);
     // The callback gets no context.
     list_.SetCallBackClick([](int cell, bool changed) {
         if (instance_)

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <array>
 #include <functional>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "KorvaneEx.h"
+
+#include "demo/headunit/ListLooks.h"
 
 namespace korvane::demo {
 
@@ -41,7 +41,7 @@ class SourcesScreen : public CLQWindow {
     int playing_ = -1;  // the cell of the source that plays
     std::function<void(int id)> onChosen_;
 
-    std::array<std::vector<CLQSurfHandle>, 4> icons_;  // the list borrows them, so they end after it
+    ListLooks looks_;  // the list borrows from it
     CLQImageView background_;
     CLQSwitchList list_;
     CLQImageView picture_;

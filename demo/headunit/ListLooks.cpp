@@ -1,0 +1,38 @@
+#include "demo/headunit/ListLooks.h"
+
+namespace korvane::demo {
+
+namespace {
+
+struct Look {
+    const wchar_t* ending;
+    void (CLQSwitchList::*setIcons)(std::vector<CLQSurfHandle*>& icons);
+    _eTextColorType type;
+    _LQColor color;
+};
+constexpr Look kLooks[] = {
+    {L"_n.lqi", &CLQSwitchList::SetIconNormalSurf, eTextColor_Normal, {230, 238, 250, 255}},
+    {L"_p.lqi", &CLQSwitchList::SetIconActiveSurf, eTextColor_Active, {255, 255, 255, 255}},
+    {L"_f.lqi", &CLQSwitchList::SetIconFocusSurf, eTextColor_Focus, {255, 181, 74, 255}},
+    {L"_d.lqi", &CLQSwitchList::SetIconDisableSurf, eTextColor_Disable, {79, 95, 125, 255}},
+};
+
+}  // namespace
+
+void ListLooks::GiveTo(CLQSwitchList& list, const std::vector<std::wstring>& names) {
+    for (std::size_t i = 0; i < icons_.size(); ++i) {
+        const Look& look = kLooks[i];
+        icons_[i].clear();
+        for (const std::wstring& name : names)
+            icons_[i].push_back(
+                CLQSurfManager::GetInstance()->CreateSurface((name + look.ending).c_str(), true));
+        std::vector<CLQSurfHandle*> borrowed;
+        for (CLQSurfHandle& icon : icons_[i])
+            borrowed.push_back(&icon);
+        (list.*look.setIcons)(borrowed);
+        _LQColor color = look.color;
+        list.SetTextColor(look.type, color);
+    }
+}
+
+}  // namespace korvane::demo
