@@ -82,4 +82,15 @@ TEST_F(ScreenSlides, HandATouchThatComesMeanwhileToTheNewScreen) {
     EXPECT_FALSE(scene_.ShowsControl(L"ShortCutBtn1")) << "the button that was there before";
 }
 
+TEST_F(ScreenSlides, TakeThePressAwayThatTheOldScreenHeld) {
+    scene_.Press(kSourcesButton.x, kSourcesButton.y);
+    EXPECT_EQ(MsOfSource(4), kSlideMs);
+    scene_.Release(kSourcesButton.x, kSourcesButton.y);
+    EXPECT_FALSE(scene_.ShowsControl(L"ShortCutBtn1"));
+    Touch(kBackButton);
+    EXPECT_FALSE(scene_.ShowsControl(L"ShortCutBtn1"));
+    Touch(kSourcesButton);
+    EXPECT_TRUE(scene_.ShowsControl(L"ShortCutBtn1"));
+}
+
 }  // namespace korvane::demo
