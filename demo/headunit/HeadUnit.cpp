@@ -92,6 +92,10 @@ void HeadUnit::OnSystemChanged(int item) {
 }
 
 void HeadUnit::OnBack() {
+    if (strip_.ShowsShortcuts()) {
+        strip_.CloseShortcuts();
+        return;
+    }
     switch (screen_) {
         case Screen::Player:
             ChooseSource(kRadioSource);

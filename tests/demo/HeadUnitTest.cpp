@@ -115,6 +115,17 @@ TEST_F(HeadUnitTest, ComesBackToTheRadioWithTheBackButton) {
     EXPECT_FALSE(scene_.ShowsControl(L"BtnBack"));
 }
 
+TEST_F(HeadUnitTest, ClosesTheShortcutsWithTheBackButtonFirst) {
+    Set(L"source", 12);
+    Touch(kSourcesButton);
+    ASSERT_TRUE(ShowsPanel());
+    Touch(kBackButton);
+    EXPECT_FALSE(ShowsPanel());
+    EXPECT_EQ(Get(L"source"), 12);
+    Touch(kBackButton);
+    EXPECT_EQ(Get(L"source"), 0);
+}
+
 TEST_F(HeadUnitTest, ShowsNoSourceThatIsNotThere) {
     Set(L"discAudioPresent", 0);
     ChooseShortcut(2);

@@ -157,7 +157,11 @@ TEST_P(LanguageTables, NameEachLanguageInItsOwnWords) {
 TEST_P(LanguageTables, FitTheControlsThatShowThem) {
     for (int id = kCaptionTuner; id <= kCaptionAudioOff; ++id)
         EXPECT_LE(Width(id, 18), 128) << "shortcut button: " << id;
-    EXPECT_LE(Width(kCaptionBack, 24), 136) << "back button";
+    for (const int id : {kCaptionBack, kCaptionDone})
+        EXPECT_LE(Width(id, 24), 136) << "back button: " << id;
+    for (const int id : {kCaptionMenu, kCaptionSources, kCaptionGauges, kCaptionFiles, kCaptionSettings,
+                         kCaptionChooseTile, kCaptionChoosePlace, kCaptionNotConnected, kCaptionRearSeats})
+        EXPECT_LE(Width(id, 20), 226) << "title beside the play time: " << id;
     EXPECT_LE(Width(kCaptionSources, 22), 124) << "sources button";
     EXPECT_LE(Width(kCaptionPresets, 22), 118) << "presets button";
     for (const int id : {kCaptionMore, kCaptionBack})
