@@ -106,44 +106,6 @@ TEST(PostToAnotherProcess, RefusesWhatPointsIntoTheSendersMemory) {
     EXPECT_FALSE(PostMessageW(window, WM_GETTEXT, 10, 0));
 }
 
-TEST(PostToAnotherProcess, IsRefusedAtOnceWhenTheReceiverTakesNothing) {
-    PeerProcess peer;
-    peer.Ask("window Korvane.Peer stuck");
-    const HWND window = FindWindowW(nullptr, L"stuck");
-    peer.Freeze();
-    WPARAM posted = 0;
-    while (posted < 1000000 && PostMessageW(window, WM_APP, posted, 0))
-        ++posted;
-    EXPECT_EQ(GetLastError(), ERROR_NOT_ENOUGH_QUOTA);
-    EXPECT_GE(posted, 200u);
-    EXPECT_LT(posted, 1000000u);
-    EXPECT_FALSE(PostMessageW(window, WM_APP, posted, 0));
-    peer.Thaw();
-    // Nothing that was accepted is lost.
-    const std::string taken = peer.Ask("take " + std::to_string(posted));
-    EXPECT_EQ(taken.substr(taken.rfind(' ')), " 0:" + std::to_string(posted - 1) + ":0");
-}
-
-TEST(PostToAnotherProcess, WaitsWithTheSenderWhileAQueueIsFull) {
-    const TestWindow window;
-    for (int i = 0; i < 10000; ++i)
-        ASSERT_TRUE(PostMessageW(window.Handle(), WM_APP + 1, 0, 0));
-    PeerProcess peer;
-    peer.Ask("find Korvane.Test *");
-    for (int i = 0; i < 50; ++i)
-        ASSERT_EQ(peer.Ask("post 2 " + std::to_string(i) + " 0"), "ok");
-    MSG message{};
-    for (int i = 0; i < 10000; ++i) {
-        ASSERT_TRUE(PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE));
-        ASSERT_EQ(message.message, WM_APP + 1);
-    }
-    for (WPARAM i = 0; i < 50; ++i) {
-        ASSERT_TRUE(PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE));
-        EXPECT_EQ(message.wParam, i);
-    }
-    EXPECT_FALSE(PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE));
-}
-
 TEST(PostToAnotherProcess, ArrivesFromASenderThatHasEnded) {
     const TestWindow window;
     {
@@ -157,31 +119,6 @@ TEST(PostToAnotherProcess, ArrivesFromASenderThatHasEnded) {
     EXPECT_EQ(message.message, WM_APP + 3);
     EXPECT_EQ(message.wParam, 4u);
     EXPECT_EQ(message.lParam, 5);
-}
-
-TEST(PostToAnotherProcess, EndsAWaitUnderTheManualClock) {
-    PeerProcess peer;
-    peer.Ask("manual");
-    peer.Ask("window Korvane.Peer still");
-    // Nobody knows the window, so nothing can come.
-    EXPECT_EQ(peer.Ask("take 1"), "taken quit");
-    const HWND window = FindWindowW(nullptr, L"still");
-    peer.Say("take 2");
-    EXPECT_EQ(SendMessageW(window, kPeerAdds, 1, 1), 3);
-    PostMessageW(window, WM_APP, 1, 2);
-    PostMessageW(window, WM_APP, 3, 4);
-    EXPECT_EQ(peer.Hear(), "taken 0:1:2 0:3:4");
-}
-
-TEST(PostToAnotherProcess, LetsAWaitUnderTheManualClockEndWhenTheLastSenderHasGone) {
-    PeerProcess peer;
-    peer.Ask("manual");
-    peer.Ask("window Korvane.Peer still");
-    PeerProcess knowing;
-    EXPECT_EQ(knowing.Ask("find Korvane.Peer still"), "Korvane.Peer still");
-    peer.Say("take 1");
-    knowing.Kill();
-    EXPECT_EQ(peer.Hear(), "taken quit");
 }
 
 }  // namespace

@@ -88,13 +88,12 @@ KORVANE_API BOOL SetWindowTextW(HWND window, LPCWSTR text);
 KORVANE_API int GetWindowTextW(HWND window, LPWSTR text, int capacity);
 KORVANE_API int GetClassNameW(HWND window, LPWSTR name, int capacity);
 
-/// The newest top-level window that fits, of this process if it has one, else of the others. A null name fits
-/// everything; both names are compared without regard to case. Other processes see the first 1024 characters
-/// of a title.
+/// The newest top-level window that fits, whichever process has it. A null name fits everything; both names
+/// are compared without regard to case. Other processes see the first 1024 characters of a title.
 KORVANE_API HWND FindWindowW(LPCWSTR className, LPCWSTR title);
 
-/// Calls `procedure` for each top-level window, those of this process first, the newest first in either part.
-/// FALSE from `procedure` ends it, and is the result.
+/// Calls `procedure` for each top-level window of all processes, the newest first. FALSE from `procedure`
+/// ends it, and is the result.
 KORVANE_API BOOL EnumWindows(WNDENUMPROC procedure, LPARAM parameter);
 
 /// GWLP_WNDPROC, GWLP_USERDATA and GWL_STYLE of this process's windows; 0 and ERROR_INVALID_INDEX for another

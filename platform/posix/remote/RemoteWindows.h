@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,12 +13,18 @@ namespace korvane {
 // handle of theirs is worth something in this process only, names one window as long as that exists, and none
 // afterwards. Any thread may call these, without the session's mutex.
 
-/// The newest that fits, null when there is none. A null name fits everything. Its process then knows that
-/// somebody may send it messages.
-HWND FindRemoteWindow(LPCWSTR className, LPCWSTR title);
+/// The newest that fits and is newer than `born`, null when there is none. A null name fits everything. Its
+/// process then knows that somebody may send it messages.
+HWND FindRemoteWindow(LPCWSTR className, LPCWSTR title, std::uint64_t born);
 
-/// All of them, the newest first.
-std::vector<HWND> RemoteWindows();
+/// A window by its handle in this process.
+struct TopLevelWindow {
+    HWND handle = nullptr;
+    std::uint64_t born = 0;  // nanoseconds of the machine's steady clock
+};
+
+/// All of them, in any order.
+std::vector<TopLevelWindow> RemoteWindows();
 
 struct RemoteWindowNames {
     std::wstring className;

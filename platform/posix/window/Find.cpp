@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -22,24 +23,30 @@ std::optional<std::wstring> NameOfClass(const Session& session, LPCWSTR nameOrAt
     return nameOrAtom;
 }
 
-HWND FindOwn(const Session& session, const wchar_t* className, LPCWSTR title) {
+const Window* FindOwn(const Session& session, const wchar_t* className, LPCWSTR title) {
     for (auto at = session.windows.rbegin(); at != session.windows.rend(); ++at) {
         const Window& window = *at->second;
         if (IsTopLevel(window) && (!className || EqualFolded(window.windowClass->name, className)) &&
             (!title || EqualFolded(window.title, title)))
-            return window.handle;
+            return &window;
     }
     return nullptr;
 }
 
-std::vector<HWND> OwnTopLevelWindows() {
-    Session& session = TheSession();
-    const std::lock_guard<std::mutex> lock(session.mutex);
-    std::vector<HWND> windows;
-    for (auto at = session.windows.rbegin(); at != session.windows.rend(); ++at) {
-        if (IsTopLevel(*at->second))
-            windows.push_back(at->second->handle);
+// Those of all processes, the newest first.
+std::vector<TopLevelWindow> TopLevelWindows() {
+    std::vector<TopLevelWindow> windows = RemoteWindows();
+    {
+        Session& session = TheSession();
+        const std::lock_guard<std::mutex> lock(session.mutex);
+        for (auto at = session.windows.rbegin(); at != session.windows.rend(); ++at) {
+            if (IsTopLevel(*at->second))
+                windows.push_back({at->second->handle, at->second->born});
+        }
     }
+    std::stable_sort(
+        windows.begin(), windows.end(),
+        [](const TopLevelWindow& left, const TopLevelWindow& right) { return left.born > right.born; });
     return windows;
 }
 
@@ -52,28 +59,29 @@ extern "C" {
 
 HWND FindWindowW(LPCWSTR className, LPCWSTR title) {
     std::optional<std::wstring> name;
+    HWND own = nullptr;
+    std::uint64_t born = 0;
     {
         Session& session = TheSession();
         const std::lock_guard<std::mutex> lock(session.mutex);
         if (className && !(name = NameOfClass(session, className)))
             return Fail(ERROR_CANNOT_FIND_WND_CLASS), nullptr;
-        if (const HWND own = FindOwn(session, name ? name->c_str() : nullptr, title))
-            return own;
+        if (const Window* const window = FindOwn(session, name ? name->c_str() : nullptr, title)) {
+            own = window->handle;
+            born = window->born;
+        }
     }
-    const HWND found = FindRemoteWindow(name ? name->c_str() : nullptr, title);
-    if (!found)
+    const HWND other = FindRemoteWindow(name ? name->c_str() : nullptr, title, born);
+    if (!own && !other)
         SetLastError(ERROR_FILE_NOT_FOUND);
-    return found;
+    return other ? other : own;
 }
 
 BOOL EnumWindows(WNDENUMPROC procedure, LPARAM parameter) {
     if (!procedure)
         return Fail(ERROR_INVALID_PARAMETER);
-    std::vector<HWND> windows = OwnTopLevelWindows();
-    const std::vector<HWND> others = RemoteWindows();
-    windows.insert(windows.end(), others.begin(), others.end());
-    for (const HWND window : windows) {
-        if (IsWindow(window) && !procedure(window, parameter))
+    for (const TopLevelWindow& window : TopLevelWindows()) {
+        if (IsWindow(window.handle) && !procedure(window.handle, parameter))
             return FALSE;
     }
     return TRUE;

@@ -1,12 +1,10 @@
 #include "platform/posix/remote/RemoteWindows.h"
 
-#include <algorithm>
-
 #include "platform/CaseFold.h"
 #include "platform/posix/LastError.h"
-#include "platform/queue/PointerMessage.h"
 #include "platform/posix/remote/Fork.h"
 #include "platform/posix/remote/reach/Neighbours.h"
+#include "platform/queue/PointerMessage.h"
 
 namespace korvane {
 namespace {
@@ -18,16 +16,15 @@ bool Fits(const ListedWindow& window, LPCWSTR className, LPCWSTR title) {
 
 }  // namespace
 
-HWND FindRemoteWindow(LPCWSTR className, LPCWSTR title) {
+HWND FindRemoteWindow(LPCWSTR className, LPCWSTR title, std::uint64_t born) {
     PrepareForFork();
     Neighbours& neighbours = TheNeighbours();
     const std::lock_guard<std::mutex> lock(neighbours.mutex);
     std::shared_ptr<Peer> owner;
     std::uint32_t handle = 0;
-    std::uint64_t born = 0;
     for (const std::shared_ptr<Peer>& peer : neighbours.LookAround()) {
         for (const ListedWindow& window : peer->Windows()) {
-            if (window.born < born || !Fits(window, className, title))
+            if (window.born <= born || !Fits(window, className, title))
                 continue;
             owner = peer;
             handle = window.handle;
@@ -40,20 +37,15 @@ HWND FindRemoteWindow(LPCWSTR className, LPCWSTR title) {
     return neighbours.HandleOf(owner, handle);
 }
 
-std::vector<HWND> RemoteWindows() {
+std::vector<TopLevelWindow> RemoteWindows() {
     Neighbours& neighbours = TheNeighbours();
     const std::lock_guard<std::mutex> lock(neighbours.mutex);
-    std::vector<std::pair<std::uint64_t, HWND>> byBirth;
+    std::vector<TopLevelWindow> windows;
     for (const std::shared_ptr<Peer>& peer : neighbours.LookAround()) {
-        const std::vector<ListedWindow> windows = peer->Windows();
-        for (const ListedWindow& window : windows)
-            byBirth.emplace_back(window.born, neighbours.HandleOf(peer, window.handle));
+        const std::vector<ListedWindow> listed = peer->Windows();
+        for (const ListedWindow& window : listed)
+            windows.push_back({neighbours.HandleOf(peer, window.handle), window.born});
     }
-    std::stable_sort(byBirth.begin(), byBirth.end(),
-                     [](const auto& left, const auto& right) { return left.first > right.first; });
-    std::vector<HWND> windows;
-    for (const auto& [born, window] : byBirth)
-        windows.push_back(window);
     return windows;
 }
 

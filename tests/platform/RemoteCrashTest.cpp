@@ -1,12 +1,10 @@
 #include <gtest/gtest.h>
-#include <memory>
 #include <thread>
 #include <vector>
 
 #include "tests/platform/PeerMessages.h"
 #include "tests/platform/PeerProcess.h"
 #include "tests/platform/TestWindow.h"
-#include "tests/platform/posix/RuntimeFiles.h"
 
 namespace korvane {
 namespace {
@@ -32,7 +30,6 @@ TEST(CrashOfAnotherProcess, NeverHoldsUpTheSender) {
         EXPECT_EQ(GetLastError(), ERROR_INVALID_WINDOW_HANDLE);
         EXPECT_EQ(FindWindowW(nullptr, L"victim"), nullptr);
     }
-    EXPECT_TRUE(RuntimeFiles(".socket").empty());
 }
 
 TEST(CrashOfAnotherProcess, LeavesTheReceiverAlone) {
@@ -67,29 +64,6 @@ TEST(CrashOfAnotherProcess, DoesNotGiveItsHandlesToTheNextOne) {
     EXPECT_NE(FindWindowW(nullptr, L"same"), dead);
     EXPECT_FALSE(IsWindow(dead));
     EXPECT_FALSE(PostMessageW(dead, WM_APP, 0, 0));
-}
-
-TEST(CrashOfAnotherProcess, MayComeWhileManyStart) {
-    constexpr int kProcesses = 100;
-    std::vector<std::unique_ptr<PeerProcess>> peers;
-    for (int i = 0; i < kProcesses; ++i) {
-        peers.push_back(std::make_unique<PeerProcess>());
-        peers.back()->Say("window Korvane.Peer title" + std::to_string(i));
-        if (i % 10 == 9)
-            peers[static_cast<std::size_t>(i) - 5]->Kill();
-    }
-    for (int i = 0; i < kProcesses; ++i) {
-        if (i % 10 != 4) {
-            EXPECT_EQ(peers[static_cast<std::size_t>(i)]->Hear(), "ok");
-        }
-    }
-    for (int i = 0; i < kProcesses; ++i) {
-        const std::wstring title = L"title" + std::to_wstring(i);
-        EXPECT_EQ(FindWindowW(nullptr, title.c_str()) != nullptr, i % 10 != 4) << i;
-    }
-    EXPECT_EQ(RuntimeFiles(".socket").size(), 90u);
-    peers.clear();
-    EXPECT_TRUE(RuntimeFiles().empty());
 }
 
 }  // namespace
