@@ -51,18 +51,18 @@ KORVANE_API bool NextTimerDue(unsigned& msFromNow);
 /// A wait under the manual clock that nothing could end (the handler returned false or is itself waiting, or
 /// there is no handler, no display, no other thread and no other process) ends as if WM_QUIT had been posted
 /// with exit code 0. A process counts when it has found a window of this one with FindWindowW, or has posted
-/// or sent to it, and still runs.
+/// or sent to it, and still runs; on Windows, where that cannot be told, none counts.
 KORVANE_API void SetIdleHandler(std::function<bool()> handler);
 
 /// Appends an input message to the queue of the window's thread, behind all posted ones. A WM_MOUSEMOVE right
 /// behind a waiting one of the same window takes its place. Any thread may call it. False for a dead window
-/// or a full queue.
+/// or a full queue. On Windows under the system's clock it is posted like any message.
 KORVANE_API bool PostInput(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-/// The same with a time stamp of its own.
+/// The same with a time stamp of its own, which Windows gives messages itself under its own clock.
 KORVANE_API bool PostInputAt(HWND window, UINT message, WPARAM wParam, LPARAM lParam, DWORD time);
 
-/// PostMessageW with a time stamp of its own.
+/// PostMessageW with a time stamp of its own, with the same exception.
 KORVANE_API bool PostAt(HWND window, UINT message, WPARAM wParam, LPARAM lParam, DWORD time);
 
 }  // namespace korvane

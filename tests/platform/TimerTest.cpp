@@ -230,6 +230,41 @@ TEST_F(TimerTest, TellsHowLongTheNextOneTakes) {
     KillTimer(nullptr, ofTheThread);
 }
 
+TEST_F(TimerTest, RunsOnUnderTheSystemsClock) {
+    std::vector<UINT_PTR> ids;
+    onTimer = [&](HWND, UINT_PTR id, DWORD) { ids.push_back(id); };
+    const UINT_PTR ofTheThread = SetTimer(nullptr, 0, 10, &TimerProcedure);
+    SetTimer(window_.Handle(), 7, 10, &TimerProcedure);
+    UseSystemClock();
+    bool seen = false;
+    bool seenOfTheThread = false;
+    while (!seen || !seenOfTheThread) {
+        MSG message{};
+        ASSERT_EQ(GetMessageW(&message, nullptr, WM_TIMER, WM_TIMER), TRUE);
+        ASSERT_EQ(message.wParam, message.hwnd ? 7 : ofTheThread);
+        (message.hwnd ? seen : seenOfTheThread) = true;
+        DispatchMessageW(&message);
+        ASSERT_EQ(ids.back(), message.wParam);
+    }
+    EXPECT_TRUE(KillTimer(nullptr, ofTheThread));
+    EXPECT_TRUE(KillTimer(window_.Handle(), 7));
+    EXPECT_TRUE(DueIds().empty());
+}
+
+TEST_F(TimerTest, KeepsWhatItHadLeftWhenTheClockStops) {
+    UseSystemClock();
+    SetTimer(window_.Handle(), 7, 60000, nullptr);
+    const StoppedClock again;
+    unsigned due = 0;
+    ASSERT_TRUE(NextTimerDue(due));
+    EXPECT_LE(due, 60000u);
+    EXPECT_GT(due, 30000u);
+    AdvanceClock(due - 1);
+    EXPECT_TRUE(DueIds().empty());
+    AdvanceClock(1);
+    EXPECT_EQ(DueIds(), std::vector<WPARAM>{7});
+}
+
 TEST_F(TimerTest, IsRefusedForADeadWindow) {
     DestroyWindow(window_.Handle());
     EXPECT_EQ(SetTimer(window_.Handle(), 1, 50, nullptr), 0u);
