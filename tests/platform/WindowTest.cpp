@@ -12,6 +12,10 @@ LRESULT CALLBACK RefuseCreation(HWND window, UINT message, WPARAM wParam, LPARAM
     return message == WM_CREATE ? -1 : DefWindowProcW(window, message, wParam, lParam);
 }
 
+LRESULT CALLBACK AnswerNinetyNine(HWND, UINT, WPARAM, LPARAM) {
+    return 99;
+}
+
 HWND CreateNamed(const wchar_t* className, const wchar_t* title = L"") {
     return CreateWindowExW(0, className, title, WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
 }
@@ -171,9 +175,8 @@ TEST(Window, CarriesAWordOfItsOwner) {
 
 TEST(Window, ChangesItsProcedure) {
     const TestWindow window;
-    const WNDPROC replacement = [](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return 99; };
     const LONG_PTR before =
-        SetWindowLongPtrW(window.Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(replacement));
+        SetWindowLongPtrW(window.Handle(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AnswerNinetyNine));
     EXPECT_EQ(SendMessageW(window.Handle(), WM_APP, 0, 0), 99);
     SetWindowLongPtrW(window.Handle(), GWLP_WNDPROC, before);
     EXPECT_EQ(SendMessageW(window.Handle(), WM_APP, 0, 0), 0);
