@@ -1,8 +1,9 @@
 #include "platform/display/SystemDisplay.h"
 
-#include <string>
 #include <string_view>
 
+#include "platform/display/ModuleName.h"
+#include "platform/windows/display/ModuleDisplay.h"
 #include "platform/windows/display/Win32Display.h"
 
 namespace korvane {
@@ -27,14 +28,14 @@ void RefuseMagnification() {
 }  // namespace
 
 std::unique_ptr<Display> CreateSystemDisplay(const char* name) {
-    if (std::string_view(name ? name : "") != DefaultDisplay()) {
-        const std::string shown = name ? name : "";
-        FailDisplay(
-            ("there is no display \"" + shown + "\" on Windows, only \"win32\" and \"memory\"").c_str());
-        return nullptr;
+    if (std::string_view(name ? name : "") == DefaultDisplay()) {
+        RefuseMagnification();
+        return std::make_unique<Win32Display>();
     }
-    RefuseMagnification();
-    return std::make_unique<Win32Display>();
+    if (name && IsDisplayModuleName(name))
+        return LoadDisplayModule(name);
+    FailDisplay("there is no display of that name");
+    return nullptr;
 }
 
 // A hidden window would not be painted. One that lets everything through looks and feels like none.

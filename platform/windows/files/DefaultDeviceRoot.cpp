@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "platform/Unicode.h"
+#include "platform/windows/files/OwnFolder.h"
 
 namespace korvane {
 namespace {
@@ -11,18 +12,6 @@ std::wstring EnvironmentVariable(const wchar_t* name) {
     std::wstring value(GetEnvironmentVariableW(name, nullptr, 0), L'\0');
     value.resize(GetEnvironmentVariableW(name, value.data(), static_cast<DWORD>(value.size())));
     return value;
-}
-
-// The folder of this library, with a separator at its end.
-std::wstring OwnFolder() {
-    HMODULE module = nullptr;
-    constexpr DWORD kByAddress =
-        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
-    GetModuleHandleExW(kByAddress, reinterpret_cast<LPCWSTR>(&DefaultDeviceRoot), &module);
-    constexpr DWORD kLongestPath = 32768;
-    std::wstring path(kLongestPath, L'\0');
-    path.resize(GetModuleFileNameW(module, path.data(), kLongestPath));
-    return path.substr(0, path.rfind(L'\\') + 1);
 }
 
 }  // namespace

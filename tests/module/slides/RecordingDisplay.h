@@ -12,6 +12,6 @@ using PresentSink = void (*)(const std::uint32_t* pixels, int stride, int left, 
 /// The display module "recorder" exports a function of this type and name. Each Present goes to the sink;
 /// null, as at first: nowhere.
 using SetPresentSink = void (*)(PresentSink sink);
-constexpr char kSetPresentSinkName[] = "RecorderSetSink";
+constexpr wchar_t kSetPresentSinkName[] = L"RecorderSetSink";
 
 }  // namespace korvane::test
