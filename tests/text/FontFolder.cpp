@@ -23,8 +23,14 @@ FontFolder::FontFolder()
 
 FontFolder::~FontFolder() {
     SetDeviceRoot("");
+    // Once each, and not until they are gone: the process keeps its fonts open, and not every system lets
+    // their folder go meanwhile.
     std::error_code ignored;
-    std::filesystem::remove_all(root_, ignored);
+    const std::filesystem::path fonts = root_ / kFontFolder;
+    for (const auto& font : std::filesystem::directory_iterator(fonts, ignored))
+        std::filesystem::remove(font, ignored);
+    for (std::filesystem::path folder = fonts; folder != root_.parent_path(); folder = folder.parent_path())
+        std::filesystem::remove(folder, ignored);
 }
 
 void FontFolder::Write(const std::string& file, const std::string& bytes) const {

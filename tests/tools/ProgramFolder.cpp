@@ -1,19 +1,43 @@
 #include "tests/tools/ProgramFolder.h"
 
-#include <cstdlib>
+#include <vector>
+
+#include "tests/support/Program.h"
 
 namespace korvane::test {
+namespace {
+
+/// Words with a space between them; one in quotation marks may hold spaces.
+std::vector<std::string> Words(const std::string& text) {
+    std::vector<std::string> words;
+    bool isQuoted = false;
+    bool isInside = false;
+    for (const char character : text) {
+        if (character == '"') {
+            isQuoted = !isQuoted;
+        } else if (character == ' ' && !isQuoted) {
+            isInside = false;
+            continue;
+        }
+        if (!isInside)
+            words.emplace_back();
+        isInside = true;
+        if (character != '"')
+            words.back() += character;
+    }
+    return words;
+}
+
+}  // namespace
 
 int ProgramFolder::Run(const std::string& arguments) {
-    const std::string command =
-        '"' + program_ + "\" " + arguments + " >" + Quoted(".out") + " 2>" + Quoted(".err");
-    const int status = std::system(command.c_str());
-    output_ = Text(".out");
-    errors_ = Text(".err");
-    std::filesystem::remove(At(".out"));
-    std::filesystem::remove(At(".err"));
-    // Where the status holds more than the exit code, that is its second byte.
-    return status > 255 ? status / 256 : status;
+    std::vector<std::string> command = Words(arguments);
+    command.insert(command.begin(), program_);
+    Program program(command);
+    const int status = program.Wait();
+    output_ = program.Output();
+    errors_ = program.Errors();
+    return status;
 }
 
 std::string ProgramFolder::Text(const std::string& name) const {
