@@ -1,11 +1,9 @@
 #include "tests/support/ChildProcess.h"
 
-#include <chrono>
-#include <condition_variable>
+#include <algorithm>
 #include <cstdlib>
-#include <mutex>
+#include <iterator>
 #include <stdexcept>
-#include <thread>
 #include <utility>
 
 #include "platform/Unicode.h"
@@ -22,32 +20,6 @@ namespace {
 /// The exit code of a process that was killed; none ends with it by itself.
 constexpr UINT kKilledCode = 0xE0000009;
 
-/// What the process has printed and nobody has taken yet. Threads of their own read it, since a pipe cannot
-/// be waited for.
-struct Printed {
-    std::mutex mutex;
-    std::condition_variable more;
-    std::string output;
-    std::string errors;
-    int openStreams = 2;
-};
-
-void ReadAll(const Handle& end, Printed& printed, std::string& text) {
-    char block[4096];
-    DWORD count = 0;
-    while (ReadFile(end.Get(), block, sizeof(block), &count, nullptr)) {
-        const std::lock_guard<std::mutex> lock(printed.mutex);
-        for (DWORD i = 0; i < count; ++i) {
-            if (block[i] != '\r')
-                text += block[i];
-        }
-        printed.more.notify_all();
-    }
-    const std::lock_guard<std::mutex> lock(printed.mutex);
-    --printed.openStreams;
-    printed.more.notify_all();
-}
-
 struct Pipe {
     Handle readEnd;
     Handle writeEnd;
@@ -59,6 +31,17 @@ Pipe MakePipe() {
     if (!CreatePipe(&readEnd, &writeEnd, nullptr, 0))
         throw std::runtime_error("no pipes");
     return {Handle(readEnd), Handle(writeEnd)};
+}
+
+/// Appends what waits in the pipe. False when that is nothing.
+bool ReadInto(std::string& text, const Handle& end) {
+    char block[4096];
+    DWORD count = 0;
+    if (!PeekNamedPipe(end.Get(), nullptr, 0, nullptr, &count, nullptr) || count == 0 ||
+        !ReadFile(end.Get(), block, std::min<DWORD>(count, sizeof(block)), &count, nullptr))
+        return false;
+    std::copy_if(block, block + count, std::back_inserter(text), [](char letter) { return letter != '\r'; });
+    return true;
 }
 
 HANDLE Inherited(const Handle& handle) {
@@ -103,8 +86,8 @@ struct ChildProcess::State {
     Handle process;
     DWORD id = 0;
     Handle input;
-    // Shared with the readers, which another process may hold up that has inherited the streams.
-    std::shared_ptr<Printed> printed = std::make_shared<Printed>();
+    Handle output;
+    Handle errors;
 };
 
 ChildProcess::ChildProcess(const std::vector<std::string>& command) : state_(new State) {
@@ -128,13 +111,8 @@ ChildProcess::ChildProcess(const std::vector<std::string>& command) : state_(new
     state_->process = Handle(made.hProcess);
     state_->id = made.dwProcessId;
     state_->input = std::move(in.writeEnd);
-    const auto read = [printed = state_->printed](Handle end, std::string Printed::*text) {
-        std::thread([printed, text, end = std::move(end)] {
-            ReadAll(end, *printed, (*printed).*text);
-        }).detach();
-    };
-    read(std::move(out.readEnd), &Printed::output);
-    read(std::move(err.readEnd), &Printed::errors);
+    state_->output = std::move(out.readEnd);
+    state_->errors = std::move(err.readEnd);
 }
 
 ChildProcess::~ChildProcess() {
@@ -152,17 +130,24 @@ void ChildProcess::CloseInput() {
     state_->input = Handle();
 }
 
+// A pipe cannot be waited for. Its end says nothing either: what the system starts with the process may have
+// inherited it.
 bool ChildProcess::ReadMore(std::string& output, std::string& errors, int timeoutMs) {
-    Printed& printed = *state_->printed;
-    std::unique_lock<std::mutex> lock(printed.mutex);
-    const auto hasMore = [&printed] { return !printed.output.empty() || !printed.errors.empty(); };
-    const auto isOver = [&printed, &hasMore] { return hasMore() || printed.openStreams == 0; };
-    if (timeoutMs <= 0 || !printed.more.wait_for(lock, std::chrono::milliseconds(timeoutMs), isOver) ||
-        !hasMore())
-        return false;
-    output += std::exchange(printed.output, {});
-    errors += std::exchange(printed.errors, {});
-    return true;
+    constexpr DWORD kPauseMs = 2;
+    const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(std::max(timeoutMs, 0));
+    bool isOver = timeoutMs <= 0;
+    DWORD pauseMs = 0;
+    while (!isOver) {
+        // Before the pipes are looked at: the process has written all of it when it ends.
+        isOver =
+            WaitForSingleObject(state_->process.Get(), pauseMs) == WAIT_OBJECT_0 || GetTickCount64() >= end;
+        const bool hasOutput = ReadInto(output, state_->output);
+        const bool hasErrors = ReadInto(errors, state_->errors);
+        if (hasOutput || hasErrors)
+            return true;
+        pauseMs = kPauseMs;
+    }
+    return false;
 }
 
 void ChildProcess::Kill() {
