@@ -1,9 +1,9 @@
 #include <cstdint>
 #include <cstring>
 
-#include "platform/queue/PointerMessage.h"
 #include "platform/posix/remote/RemoteHandle.h"
 #include "platform/posix/remote/wire/Packet.h"
+#include "platform/queue/PointerMessage.h"
 
 #include "tests/fuzz/Require.h"
 
