@@ -1,4 +1,3 @@
-#include <cstdlib>
 #include <gtest/gtest.h>
 
 #include "platform/Simulation.h"
@@ -132,30 +131,6 @@ TEST_F(ThreeProcesses, LetOneOfAKindInOfManyThatStartAtOnce) {
             running += program->WaitForLine(ready) ? 1 : 0;
         EXPECT_EQ(running, 1) << ready;
     }
-}
-
-/// What the main application says when keys are to beep again and again.
-class KeyBeeps : public ThreeProcesses {
-  protected:
-    std::string ComplaintsWith(const char* audioDriver) {
-        setenv("SDL_AUDIODRIVER", audioDriver, 1);
-        const auto mainApplication = StartMainApplication();
-        for (int i = 0; i < 3; ++i)
-            PostMessageW(FindWindowW(nullptr, kMainWindowName), kMainKeyBeep, 0, 0);
-        // It does this after the beeps.
-        ChooseSource(kDisc);
-        mainApplication->Kill();
-        mainApplication->Wait();
-        return mainApplication->Errors();
-    }
-};
-
-TEST_F(KeyBeeps, AreReportedMissingOnceWhereThereIsNoSoundDevice) {
-    EXPECT_EQ(ComplaintsWith("no-such-driver"), "main application: no sound device, so keys do not beep\n");
-}
-
-TEST_F(KeyBeeps, SoundWithoutAWordWhereThereIsOne) {
-    EXPECT_EQ(ComplaintsWith("dummy"), "");
 }
 
 TEST_F(ThreeProcesses, AreNotDisturbedByATour) {
