@@ -98,7 +98,8 @@ void HeadUnit::OnBack() {
     }
     switch (screen_) {
         case Screen::Player:
-            ChooseSource(kRadioSource);
+            if (!PlaysRadio())
+                ChooseSource(kRadioSource);
             break;
         case Screen::Presets:
             SlideTo(Screen::Player);

@@ -16,6 +16,7 @@ void SourcesButton::Place(int x, int y) {
     caption->SetRect(6, 62, 124, 30);
     AddGUIElement(caption);
     SetLangID(kCaptionSources);
+    EnableFocus(true);
 }
 
 }  // namespace korvane::demo

@@ -25,7 +25,11 @@ bool TitleStrip::OnInit() {
 }
 
 bool TitleStrip::DoMessage(_LQMessage* msg) {
-    // The keys are for the screen below, unless the panel covers it.
+    if (msg && msg->code == kMsgKeyDown && msg->param == VK_ESCAPE) {
+        OnBtnBackPressUp();
+        return true;
+    }
+    // The other keys are for the screen below, unless the panel covers it.
     const bool isKey = msg && (msg->code == kMsgKeyDown || msg->code == kMsgKeyUp);
     if (isKey && !ShowsShortcuts())
         return false;

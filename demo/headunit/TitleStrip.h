@@ -14,7 +14,7 @@ class TitleStrip : public CLQTitleDialog {
     bool DoMessage(_LQMessage* msg) override;
     void OnBtnBackPressUp() override;
 
-    /// Called when the back button was pressed.
+    /// Called when the back button was pressed, or the key of its meaning, which works without the button.
     void WhenBack(std::function<void()> handler) { onBack_ = std::move(handler); }
     /// Called with the item number when the system information has changed and the strip shows it.
     void WhenSystemChanged(std::function<void(int item)> handler) { onSystemChanged_ = std::move(handler); }

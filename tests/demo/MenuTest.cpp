@@ -176,6 +176,29 @@ TEST_F(MenuTest, FollowsTheKeysInCursorMode) {
     SetCursorState(false);
 }
 
+TEST_F(MenuTest, IsReachedByTheKeysFromTheRadio) {
+    // The first key shows the focus, wherever it is.
+    scene_.Key(VK_LEFT);
+    scene_.Key(VK_LEFT);
+    scene_.Key(VK_DOWN);
+    scene_.Key(VK_RETURN);
+    SetCursorState(false);
+    EXPECT_TRUE(ShowsMenu());
+}
+
+TEST_F(MenuTest, GoesBackByTheEscapeKeyToo) {
+    Touch(kMenuButton);
+    scene_.Key(VK_ESCAPE);
+    EXPECT_TRUE(ShowsRadio());
+    const DWORD start = GetTickCount();
+    scene_.Key(VK_ESCAPE);
+    EXPECT_TRUE(ShowsRadio());
+    EXPECT_EQ(GetTickCount(), start) << "nothing slides";
+    Set(L"source", 12);
+    scene_.Key(VK_ESCAPE);
+    EXPECT_EQ(Get(L"source"), 0);
+}
+
 TEST_F(MenuTest, LeavesTheKeysToTheShortcutsWhileTheyAreOpen) {
     Touch({688, 224});
     ASSERT_TRUE(scene_.ShowsControl(L"ShortCutBtn1"));

@@ -77,6 +77,7 @@ void GaugesScreen::CreateDriveButton() {
     caption->SetFontSize(26, 26);
     driveButton_.AddGUIElement(caption);
     driveButton_.SetLangID(kCaptionStopDrive);
+    driveButton_.EnableFocus(true);
     driveButton_.AddCallBack(kEventReleased, this, &GaugesScreen::OnDriveButton);
     AddChild(&driveButton_);
 }

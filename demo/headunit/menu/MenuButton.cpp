@@ -16,6 +16,7 @@ void MenuButton::Place() {
     caption->SetRect(44, 6, 86, 32);
     AddGUIElement(caption);
     SetLangID(kCaptionMenu);
+    EnableFocus(true);
     AddCallBack(kEventReleased, this, &MenuButton::OnReleased);
 }
 

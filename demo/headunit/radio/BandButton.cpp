@@ -12,6 +12,7 @@ void BandButton::Place(int x, int y) {
     auto* caption = new CLQTextElement;
     caption->SetFontSize(44, 44);
     AddGUIElement(caption);
+    EnableFocus(true);
 }
 
 }  // namespace korvane::demo

@@ -22,6 +22,7 @@ void PresetButton::Place(int x, int y, int number) {
     frequency_->SetFontSize(38, 38);
     AddGUIElement(frequency_);
 
+    EnableFocus(true);
     AddCallBack(kEventReleased, this, &PresetButton::OnReleased);
     holdTimer_.SetTimer(kHoldMs);
     holdTimer_.SetCallBack(this, &PresetButton::OnHeld);

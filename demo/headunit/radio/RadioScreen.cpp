@@ -100,6 +100,7 @@ void RadioScreen::CreateButtons() {
     caption->SetRect(44, 6, 118, 32);
     presetsButton_.AddGUIElement(caption);
     presetsButton_.SetLangID(kCaptionPresets);
+    presetsButton_.EnableFocus(true);
     presetsButton_.AddCallBack(kEventReleased, this, &RadioScreen::OnPresetsButton);
     AddChild(&presetsButton_);
 }
