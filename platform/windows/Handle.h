@@ -1,7 +1,8 @@
 #pragma once
 
 #include <utility>
-#include <windows.h>
+
+#include "platform/windows/System.h"
 
 namespace korvane {
 

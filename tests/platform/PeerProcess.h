@@ -10,7 +10,7 @@ namespace korvane {
 /// object.
 class PeerProcess : public test::Program {
   public:
-    PeerProcess() : Program({KORVANE_WINDOW_PEER}) {}
+    PeerProcess();
     ~PeerProcess() { Wait(); }
 
     /// Says a command and hears the answer. Empty when the process has ended.

@@ -4,6 +4,7 @@
 #include <cwchar>
 
 #include "platform/Export.h"
+#include "platform/windows/System.h"
 
 // Every path is a path of the device; platform/Simulation.h says where it lies on this computer.
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Export.h"
+#include "platform/windows/System.h"
 
 namespace korvane::desktop {
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Export.h"
+#include "platform/windows/System.h"
 
 // While the system's clock is in use each of these is the system's own. Under the manual clock a retrieval
 // gives, in this order: what was sent; posted messages; input; WM_PAINT; WM_TIMER; WM_QUIT. Message times and

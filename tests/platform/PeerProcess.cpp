@@ -1,0 +1,7 @@
+#include "tests/platform/PeerProcess.h"
+
+namespace korvane {
+
+PeerProcess::PeerProcess() : Program({KORVANE_WINDOW_PEER}) {}
+
+}  // namespace korvane
