@@ -8,6 +8,7 @@
 #include "platform/SharedMemory.h"
 #include "platform/Simulation.h"
 
+#include "tests/support/RemoveFolder.h"
 #include "tests/support/Share.h"
 
 namespace korvane::test {
@@ -54,8 +55,7 @@ Scene::~Scene() {
     RemoveSharedMemory();
     // A test without a scene may be the first one that needs a font.
     SetDeviceRoot({});
-    std::error_code ignored;
-    fs::remove_all(root_, ignored);
+    RemoveFolder(root_);
 }
 
 void Scene::Press(int x, int y) {

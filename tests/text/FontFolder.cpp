@@ -6,6 +6,8 @@
 
 #include "platform/Simulation.h"
 
+#include "tests/support/RemoveFolder.h"
+
 namespace korvane::test {
 
 namespace {
@@ -23,14 +25,7 @@ FontFolder::FontFolder()
 
 FontFolder::~FontFolder() {
     SetDeviceRoot("");
-    // Once each, and not until they are gone: the process keeps its fonts open, and not every system lets
-    // their folder go meanwhile.
-    std::error_code ignored;
-    const std::filesystem::path fonts = root_ / kFontFolder;
-    for (const auto& font : std::filesystem::directory_iterator(fonts, ignored))
-        std::filesystem::remove(font, ignored);
-    for (std::filesystem::path folder = fonts; folder != root_.parent_path(); folder = folder.parent_path())
-        std::filesystem::remove(folder, ignored);
+    RemoveFolder(root_);
 }
 
 void FontFolder::Write(const std::string& file, const std::string& bytes) const {
