@@ -7,7 +7,6 @@
 
 #include "demo/headunit/Source.h"
 #include "demo/headunit/SourceScreen.h"
-#include "demo/headunit/TitleStrip.h"
 #include "demo/headunit/files/FilesScreen.h"
 #include "demo/headunit/gauges/GaugesScreen.h"
 #include "demo/headunit/media/MediaScreen.h"
@@ -17,6 +16,7 @@
 #include "demo/headunit/radio/Tuner.h"
 #include "demo/headunit/settings/SettingsScreen.h"
 #include "demo/headunit/sources/SourcesScreen.h"
+#include "demo/headunit/strip/TitleStrip.h"
 
 namespace korvane::demo {
 

@@ -10,10 +10,10 @@
 #include "platform/Simulation.h"
 
 #include "demo/headunit/HeadUnit.h"
-#include "demo/headunit/HeadUnitTour.h"
 #include "demo/headunit/RemoteControl.h"
-#include "demo/headunit/ScratchDevice.h"
-#include "demo/headunit/Tour.h"
+#include "demo/headunit/tour/HeadUnitTour.h"
+#include "demo/headunit/tour/ScratchDevice.h"
+#include "demo/headunit/tour/Tour.h"
 #include "demo/mainapp/MainApplication.h"
 #include "tools/commandline/ScreenSize.h"
 #include "tools/commandline/WrongUsage.h"

@@ -7,7 +7,7 @@
 
 #include "platform/coredll.h"
 
-#include "demo/headunit/ScratchDevice.h"
+#include "demo/headunit/tour/ScratchDevice.h"
 #include "tests/support/Program.h"
 #include "tools/png/Png.h"
 #include "tools/systemservice/SystemService.h"

@@ -1,7 +1,7 @@
-#include "demo/headunit/TitleStrip.h"
+#include "demo/headunit/strip/TitleStrip.h"
 
-#include "demo/headunit/ShortcutCaptions.h"
 #include "demo/headunit/media/PlayTimeText.h"
+#include "demo/headunit/strip/ShortcutCaptions.h"
 
 namespace korvane::demo {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "demo/headunit/TourScript.h"
+#include "demo/headunit/tour/TourScript.h"
 #include "tools/systemservice/SystemService.h"
 
 namespace korvane::demo {

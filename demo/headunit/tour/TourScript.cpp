@@ -1,4 +1,4 @@
-#include "demo/headunit/TourScript.h"
+#include "demo/headunit/tour/TourScript.h"
 
 namespace korvane::demo {
 

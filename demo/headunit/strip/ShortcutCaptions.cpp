@@ -1,4 +1,4 @@
-#include "demo/headunit/ShortcutCaptions.h"
+#include "demo/headunit/strip/ShortcutCaptions.h"
 
 #include "demo/headunit/Source.h"
 

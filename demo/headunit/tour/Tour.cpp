@@ -1,4 +1,4 @@
-#include "demo/headunit/Tour.h"
+#include "demo/headunit/tour/Tour.h"
 
 #include <cstdio>
 

@@ -1,4 +1,4 @@
-#include "demo/headunit/HeadUnitTour.h"
+#include "demo/headunit/tour/HeadUnitTour.h"
 
 namespace korvane::demo {
 

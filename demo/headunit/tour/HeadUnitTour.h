@@ -1,6 +1,6 @@
 #pragma once
 
-#include "demo/headunit/TourScript.h"
+#include "demo/headunit/tour/TourScript.h"
 
 namespace korvane::demo {
 

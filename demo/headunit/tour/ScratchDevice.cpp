@@ -1,4 +1,4 @@
-#include "demo/headunit/ScratchDevice.h"
+#include "demo/headunit/tour/ScratchDevice.h"
 
 #include <random>
 #include <string>
