@@ -43,13 +43,6 @@ TEST(AllocationCount, CountsEachWayOfTheCLibrary) {
     EXPECT_EQ(Counted([] { return std::malloc(10); }), 1);
     EXPECT_EQ(Counted([] { return std::calloc(10, 10); }), 1);
     EXPECT_EQ(Counted([] { return std::realloc(std::malloc(10), 10000); }), 2);
-    EXPECT_EQ(Counted([] { return ::aligned_alloc(64, 640); }), 1);
-    EXPECT_EQ(Counted([] {
-                  void* memory = nullptr;
-                  EXPECT_EQ(::posix_memalign(&memory, 64, 640), 0);
-                  return memory;
-              }),
-              1);
     EXPECT_EQ(Counted([] { return ::strdup("what the C library allocates by itself"); }), 1);
 }
 
