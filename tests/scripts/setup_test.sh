@@ -79,3 +79,10 @@ reset alpha
 touch "$scratch/offline"
 ! install || fail "succeeds without having installed anything"
 grep -q 'beta gamma' "$scratch/said" || fail "does not say which packages are missing"
+
+printf '%s\n' 'delta' >"$setup/others.txt"
+reset alpha
+touch "$scratch/lists"
+"$setup/install-packages" others.txt </dev/null 2>"$scratch/said" || fail "does not install what another list names"
+grep -qx delta "$scratch/present" || fail "does not install what another list names"
+! grep -qx beta "$scratch/present" || fail "installs what the other list does not name"
