@@ -59,4 +59,7 @@ install(FILES "${PROJECT_BINARY_DIR}/KorvaneExConfig.cmake" "${PROJECT_BINARY_DI
 file(RELATIVE_PATH libraries_from_programs "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}")
 set_target_properties(headunitctl lqimage lqlayout PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_programs}")
 install(TARGETS headunitctl lqimage lqlayout)
+if(WIN32)
+  install(FILES ${KORVANE_RUNTIME_LIBRARIES} DESTINATION "${CMAKE_INSTALL_BINDIR}")
+endif()
 install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}")

@@ -1,11 +1,13 @@
 #!/bin/bash
-# headunit_test.sh PROGRAM
+# headunit_test.sh PROGRAM [RUNNER]
+#
+# The runner is for a program of another system, which may need that system's screen even where it shows nothing.
 set -euo pipefail
 
-program=$1
+program=(${2+"$2"} "$1")
 scratch="$(mktemp -d)"
 trap 'rm -rf -- "$scratch"' EXIT
-unset DISPLAY WAYLAND_DISPLAY
+(($# == 2)) || unset DISPLAY WAYLAND_DISPLAY
 # Its windows meet those of no other program.
 export KORVANE_RUNTIME_DIR="$scratch/runtime"
 mkdir -m 700 -- "$KORVANE_RUNTIME_DIR"
@@ -16,23 +18,26 @@ fail() {
 }
 
 # A folder with a space, made by the program; the same pictures each time.
-"$program" --tour "$scratch/the tour/a" >"$scratch/list"
-"$program" --tour "$scratch/the tour/b" >/dev/null
+"${program[@]}" --tour "$scratch/the tour/a" >"$scratch/list"
+"${program[@]}" --tour "$scratch/the tour/b" >/dev/null
 [[ $(wc -l <"$scratch/list") -ge 10 ]] || fail "the tour shows too little"
 while read -r picture; do
+    # As another system's lines end and its folders are separated.
+    picture=${picture%$'\r'}
+    picture=${picture//\\//}
     [[ $(head -c 8 -- "$picture" | od -An -tx1 | tr -d ' \n') == 89504e470d0a1a0a ]] || fail "$picture is no PNG file"
     cmp -- "$picture" "$scratch/the tour/b/${picture##*/}" || fail "$picture differs from one tour to the next"
 done <"$scratch/list"
 [[ $(cksum <"$scratch/the tour/a/01-fm.png") != $(cksum <"$scratch/the tour/a/02-fm-swiped-up.png") ]] ||
     fail "a swipe changes nothing"
 
-"$program" --screenshot "$scratch/one.png" >/dev/null
+"${program[@]}" --screenshot "$scratch/one.png" >/dev/null
 cmp -- "$scratch/one.png" "$scratch/the tour/a/01-fm.png" || fail "a screenshot is not the first picture of the tour"
 
 # refuses STATUS TEXT ARGUMENT...: ends with that status and says so on standard error
 refuses() {
     local status=0
-    "$program" "${@:3}" >"$scratch/out" 2>"$scratch/err" || status=$?
+    "${program[@]}" "${@:3}" >"$scratch/out" 2>"$scratch/err" || status=$?
     [[ $status == "$1" ]] || fail "${*:3}: ends with $status"
     grep -q -- "^headunit: .*$2" "$scratch/err" || fail "${*:3}: says $(<"$scratch/err")"
     [[ ! -s $scratch/out ]] || fail "${*:3}: prints to standard output"
