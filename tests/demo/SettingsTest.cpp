@@ -123,8 +123,7 @@ TEST_F(SettingsTest, FollowALanguageThatSomebodyElseChose) {
     Set(L"language", 5);
     EXPECT_TRUE(LooksLike("demo-settings-german"));
     Set(L"language", 11);
-    ReopenSettings();
-    EXPECT_TRUE(LooksLike("demo-settings-greek"));
+    EXPECT_TRUE(LooksLike("demo-settings-greek")) << "on the other page";
 }
 
 TEST_F(SettingsTest, SelectTheSameLanguageForEachOfItsIds) {

@@ -127,7 +127,11 @@ void SettingsScreen::CreateSwitches() {
 void SettingsScreen::SetShow(bool show) {
     CLQWindow::SetShow(show);
     if (show)
-        list_.SetPageDown(language_ >= kCellsOfPage);
+        TurnToLanguage();
+}
+
+void SettingsScreen::TurnToLanguage() {
+    list_.SetPageDown(language_ >= kCellsOfPage);
 }
 
 void SettingsScreen::ShowRecord(const _LQSysInfo* record) {
@@ -135,6 +139,7 @@ void SettingsScreen::ShowRecord(const _LQSysInfo* record) {
     if (language_ != language) {
         language_ = language;
         list_.SetFouceIndex(language);
+        TurnToLanguage();
     }
     for (int i = 0; i < kSwitches; ++i)
         switches_[static_cast<std::size_t>(i)].ShowState(record && record->*kSwitchRows[i].field != 0);

@@ -38,6 +38,7 @@ class SettingsScreen : public CLQWindow {
 
     void CreateList();
     void CreateSwitches();
+    void TurnToLanguage();
     void OnClick(int cell, bool changed);
     void Choose(SysInfoItem item, int value);
 
