@@ -2,6 +2,21 @@
 
 namespace korvane::demo {
 
+namespace {
+
+/// Drops each press of finger or key that waits. A release stays: without its press it does nothing, and
+/// otherwise it ends what was held before.
+void DropPresses() {
+    const HWND screen = CLQScreen::GetInstance()->GetHWND();
+    MSG press;
+    for (const UINT message : {WM_LBUTTONDOWN, WM_KEYDOWN}) {
+        while (PeekMessageW(&press, screen, message, message, PM_REMOVE)) {
+        }
+    }
+}
+
+}  // namespace
+
 ScreenSlide::ScreenSlide(const _LQRect& place) : place_(place), shown_(NewPicture()) {
     CLQScreen* const screen = CLQScreen::GetInstance();
     screen->Paint();
@@ -32,6 +47,7 @@ void ScreenSlide::Play(CLQWindow& next, Way way) {
     moving.Create(place_.left, place_.top, place_.right - place_.left, place_.bottom - place_.top);
     moving.SetImageSurf(comesIn ? coming : shown_);
     MoveInOutCtrl2(&next, &moving, comesIn ? &shown_ : &coming, comesIn, kFrames);
+    DropPresses();
 }
 
 }  // namespace korvane::demo

@@ -22,7 +22,8 @@ class ScreenSlide {
     explicit ScreenSlide(const _LQRect& place);
 
     /// Plays the slide to `next`, which has its controls as they are to be shown. Returns when it stands, 80
-    /// milliseconds for each frame later; touches wait meanwhile.
+    /// milliseconds for each frame later. Touches and keys that begin meanwhile, or before and still wait,
+    /// are dropped: what they were meant for is gone.
     void Play(CLQWindow& next, Way way);
 
   private:

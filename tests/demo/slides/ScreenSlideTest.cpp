@@ -23,6 +23,10 @@ class ScreenSlides : public HeadUnitBench {
         Touch(place);
         return GetTickCount() - start;
     }
+    /// As the display reports it while the screens move: it waits.
+    static void PostTouch(UINT message, Place place) {
+        PostInput(CLQScreen::GetInstance()->GetHWND(), message, 0, MAKELPARAM(place.x, place.y));
+    }
     unsigned MsOfSource(int source) {
         const unsigned start = GetTickCount();
         Set(L"source", source);
@@ -70,16 +74,54 @@ TEST_F(ScreenSlides, DoNotPlayWithinTheRadio) {
     EXPECT_TRUE(scene_.Shows(L"DAB radio"));
 }
 
-TEST_F(ScreenSlides, HandATouchThatComesMeanwhileToTheNewScreen) {
-    HWND const screen = CLQScreen::GetInstance()->GetHWND();
+TEST_F(ScreenSlides, DropATouchThatBeginsMeanwhile) {
     scene_.Press(kMenuButton.x, kMenuButton.y);
-    // The next touch is there before the first one's slide begins.
-    PostInput(screen, WM_LBUTTONUP, 0, MAKELPARAM(kMenuButton.x, kMenuButton.y));
-    PostInput(screen, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(kSourcesTile.x, kSourcesTile.y));
-    PostInput(screen, WM_LBUTTONUP, 0, MAKELPARAM(kSourcesTile.x, kSourcesTile.y));
+    // A second touch in the same place, where a tile of the menu will be, before the screens have moved.
+    PostTouch(WM_LBUTTONUP, kMenuButton);
+    PostTouch(WM_LBUTTONDOWN, kMenuButton);
+    PostTouch(WM_LBUTTONUP, kMenuButton);
     scene_.Pump();
-    EXPECT_TRUE(scene_.Shows(L"Sources"));
-    EXPECT_FALSE(scene_.ShowsControl(L"ShortCutBtn1")) << "the button that was there before";
+    EXPECT_TRUE(scene_.Shows(L"Menu"));
+    Touch(kSourcesTile);
+    EXPECT_TRUE(scene_.Shows(L"Sources")) << "the touch after that counts";
+}
+
+TEST_F(ScreenSlides, DropATouchThatLastsLongerThanThey) {
+    scene_.Press(kMenuButton.x, kMenuButton.y);
+    PostTouch(WM_LBUTTONUP, kMenuButton);
+    PostTouch(WM_LBUTTONDOWN, kSourcesTile);
+    scene_.Pump();
+    scene_.Move(kSourcesTile.x, kSourcesTile.y + 3);
+    scene_.Release(kSourcesTile.x, kSourcesTile.y + 3);
+    EXPECT_TRUE(scene_.Shows(L"Menu"));
+}
+
+TEST_F(ScreenSlides, DropAKeyThatIsPressedMeanwhile) {
+    const HWND screen = CLQScreen::GetInstance()->GetHWND();
+    scene_.Press(kMenuButton.x, kMenuButton.y);
+    PostTouch(WM_LBUTTONUP, kMenuButton);
+    // The first would select a tile, the second touch it.
+    for (const int key : {VK_TAB, VK_RETURN}) {
+        PostInput(screen, WM_KEYDOWN, static_cast<WPARAM>(key), 0);
+        PostInput(screen, WM_KEYUP, static_cast<WPARAM>(key), 0);
+    }
+    scene_.Pump();
+    EXPECT_TRUE(scene_.Shows(L"Menu"));
+    scene_.Key(VK_TAB);
+    scene_.Key(VK_RETURN);
+    EXPECT_FALSE(scene_.Shows(L"Menu"));
+}
+
+TEST_F(ScreenSlides, EndThePressOfTheStripThatIsHeldWhileTheyPlay) {
+    Set(L"source", 12);
+    scene_.Press(kBackButton.x, kBackButton.y);
+    ASSERT_TRUE(service_.SetValue(L"source", 4));
+    PostTouch(WM_LBUTTONUP, kBackButton);
+    PostTouch(WM_LBUTTONDOWN, kMenuButton);
+    PostTouch(WM_LBUTTONUP, kMenuButton);
+    scene_.Pump();
+    EXPECT_EQ(Get(L"source"), 0) << "the release of the back button";
+    EXPECT_FALSE(scene_.Shows(L"Menu")) << "the touch after it";
 }
 
 TEST_F(ScreenSlides, TakeThePressAwayThatTheOldScreenHeld) {
