@@ -37,7 +37,7 @@ constexpr Cell kCells[] = {
     {4, kCaptionFrench, kChoice},     {6, kCaptionItalian, kChoice},  {8, kCaptionDutch, kChoice},
     {kNone, kCaptionMore, kPageDown}, {10, kCaptionPolish, kChoice},  {17, kCaptionPortuguese, kChoice},
     {9, kCaptionSwedish, kChoice},    {11, kCaptionGreek, kChoice},   {1, kCaptionChinese, kChoice},
-    {16, kCaptionJapanese, kChoice},  {kNone, kCaptionBack, kPageUp},
+    {16, kCaptionJapanese, kChoice},  {kNone, kCaptionMore, kPageUp},
 };
 
 /// A switch: the item of the record that it sets, and the field that holds it.

@@ -30,7 +30,7 @@ constexpr Cell kCells[] = {
     {11, kCaptionBtAudio, L"switch_bt_audio"},
     {13, kCaptionAux1, L"switch_aux1"},
     {18, kCaptionTv, L"switch_tv"},
-    {kNone, kCaptionBack, L"switch_page_up"},
+    {kNone, kCaptionMore, L"switch_page_up"},
 };
 
 int CellOf(int source) {
