@@ -2,9 +2,9 @@
 
 #include "platform/Simulation.h"
 #include "platform/posix/LastError.h"
-#include "platform/queue/PointerMessage.h"
 #include "platform/posix/queue/Session.h"
 #include "platform/posix/remote/RemoteWindows.h"
+#include "platform/queue/PointerMessage.h"
 
 namespace korvane {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <cstring>
 
-#include "platform/queue/PointerMessage.h"
 #include "platform/posix/remote/RemoteHandle.h"
+#include "platform/queue/PointerMessage.h"
 
 namespace korvane {
 
