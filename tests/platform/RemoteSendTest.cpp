@@ -58,6 +58,23 @@ TEST(SendToAnotherProcess, AnswersWhileItWaits) {
     peer.Hear();
 }
 
+TEST(SendToAnotherProcess, GivesUpWhenTheTimeIsOverThatTheSenderGives) {
+    PeerProcess peer;
+    peer.Ask("window Korvane.Peer hanging");
+    const HWND window = FindWindowW(nullptr, L"hanging");
+    peer.Freeze();
+    DWORD_PTR answer = 77;
+    EXPECT_EQ(SendMessageTimeoutW(window, kPeerAdds, 1, 1, SMTO_NORMAL, 50, &answer), 0);
+    EXPECT_EQ(GetLastError(), ERROR_TIMEOUT);
+    peer.Thaw();
+    // The answer that nobody awaits any more is not taken for the next one.
+    peer.Say("serve");
+    EXPECT_NE(SendMessageTimeoutW(window, kPeerAdds, 10, 1, SMTO_NORMAL, 60000, &answer), 0);
+    EXPECT_EQ(answer, 21u);
+    PostMessageW(window, kPeerStops, 0, 0);
+    peer.Hear();
+}
+
 TEST(SendToAnotherProcess, GoesRoundThreeProcesses) {
     Bouncing home(L"home");
     PeerProcess first;

@@ -151,5 +151,23 @@ TEST(Window, BelongsToTheThreadThatMadeIt) {
     EXPECT_TRUE(IsWindow(other.Window()));
 }
 
+TEST(SendMessageTimeout, AnswersForAWindowOfThisProcessAndForNoneThatIsGone) {
+    DWORD_PTR answer = 77;
+    {
+        TestWindow window;
+        window.onMessage = [](UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+            result = static_cast<LRESULT>(wParam) + lParam;
+            return message == WM_APP;
+        };
+        EXPECT_NE(SendMessageTimeoutW(window.Handle(), WM_APP, 40, 2, SMTO_NORMAL, 0, &answer), 0);
+        EXPECT_EQ(answer, 42u);
+        EXPECT_NE(SendMessageTimeoutW(window.Handle(), WM_APP, 1, 2, SMTO_NORMAL, 0, nullptr), 0);
+    }
+    const TestWindow window;
+    DestroyWindow(window.Handle());
+    EXPECT_EQ(SendMessageTimeoutW(window.Handle(), WM_APP, 1, 2, SMTO_NORMAL, 0, &answer), 0);
+    EXPECT_EQ(answer, 42u);
+}
+
 }  // namespace
 }  // namespace korvane

@@ -41,10 +41,11 @@ class HeadUnit {
     Outcome CheckPoints(const std::vector<ScreenPoint>& points) const {
         if (!window_)
             return Outcome::Failure(kNoHeadUnit);
-        const auto size = static_cast<ULONG_PTR>(SendMessageW(window_, kRequestScreenSize, 0, 0));
+        DWORD_PTR size = 0;
+        const bool isAnswered = Request(kRequestScreenSize, 0, size);
         const int width = LOWORD(size);
         const int height = HIWORD(size);
-        if (width == 0 || height == 0)
+        if (!isAnswered || width == 0 || height == 0)
             return Outcome::Failure(kNoAnswer);
         for (const ScreenPoint& point : points) {
             if (point.x < 0 || point.y < 0 || point.x >= width || point.y >= height)
@@ -69,10 +70,11 @@ class HeadUnit {
         // A number of one's own, so that nobody's picture is taken for another's.
         const WPARAM number = std::random_device()();
         const std::wstring file = PictureFile(number);
-        SetLastError(ERROR_SUCCESS);
-        if (SendMessageW(window_, kRequestPicture, number, 0) == 0)
-            return Outcome::Failure(GetLastError() == ERROR_SUCCESS ? "the head unit cannot save its picture"
-                                                                    : kNoAnswer);
+        DWORD_PTR isSaved = 0;
+        if (!Request(kRequestPicture, number, isSaved))
+            return Outcome::Failure(kNoAnswer);
+        if (isSaved == 0)
+            return Outcome::Failure("the head unit cannot save its picture");
         std::vector<unsigned char> bytes;
         const bool isRead = ReadWholeFile(file.c_str(), kLqiMaxSize, bytes);
         DeleteFileW(file.c_str());
@@ -85,6 +87,12 @@ class HeadUnit {
     }
 
   private:
+    /// False when it does not answer in five seconds.
+    bool Request(UINT message, WPARAM wParam, DWORD_PTR& answer) const {
+        constexpr UINT kPatienceMs = 5000;
+        return SendMessageTimeoutW(window_, message, wParam, 0, SMTO_NORMAL, kPatienceMs, &answer) != 0;
+    }
+
     HWND window_;
 };
 

@@ -40,6 +40,8 @@ constexpr UINT WM_APP = 0x8000;
 
 constexpr WPARAM MK_LBUTTON = 0x0001;
 
+constexpr UINT SMTO_NORMAL = 0;
+
 constexpr UINT PM_NOREMOVE = 0;
 constexpr UINT PM_REMOVE = 1;
 constexpr UINT PM_NOYIELD = 2;
@@ -103,4 +105,9 @@ KORVANE_API BOOL PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM l
 /// A window of another process has five seconds to answer, counted from the call; then, or when its process
 /// ends, the result is 0.
 KORVANE_API LRESULT SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+/// The same with so long a time for a window of another process. 0 when there is no result; `result`, which
+/// may be null, is then left alone. Windows of this process have no limit.
+KORVANE_API LRESULT SendMessageTimeoutW(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT flags,
+                                        UINT timeoutMs, DWORD_PTR* result);
 }

@@ -1,6 +1,7 @@
 #include "platform/posix/queue/Send.h"
 
 #include <algorithm>
+#include <chrono>
 
 #include "platform/posix/LastError.h"
 #include "platform/posix/remote/RemoteWindows.h"
@@ -51,17 +52,22 @@ class Answer {
 };
 
 // The names of another process's window are known here, so that reading them carries no pointer there.
-LRESULT SendToRemote(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+bool SendToRemote(HWND window, UINT message, WPARAM wParam, LPARAM lParam, std::chrono::milliseconds patience,
+                  LRESULT& result) {
     const auto capacity = static_cast<int>(std::min<WPARAM>(wParam, 0x7FFFFFFF));
     switch (message) {
         case WM_GETTEXT:
-            return GetWindowTextW(window, reinterpret_cast<LPWSTR>(lParam), capacity);
+            result = GetWindowTextW(window, reinterpret_cast<LPWSTR>(lParam), capacity);
+            return true;
         case WM_GETTEXTLENGTH: {
             const std::optional<RemoteWindowNames> names = NamesOfRemoteWindow(window);
-            return names ? static_cast<LRESULT>(names->title.size()) : Fail(ERROR_INVALID_WINDOW_HANDLE);
+            if (!names)
+                return Fail(ERROR_INVALID_WINDOW_HANDLE);
+            result = static_cast<LRESULT>(names->title.size());
+            return true;
         }
         default:
-            return SendToRemoteWindow(window, message, wParam, lParam);
+            return SendToRemoteWindow(window, message, wParam, lParam, patience, result);
     }
 }
 
@@ -126,8 +132,12 @@ using namespace korvane;
 extern "C" {
 
 LRESULT SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (IsRemoteHandle(window))
-        return SendToRemote(window, message, wParam, lParam);
+    if (IsRemoteHandle(window)) {
+        constexpr std::chrono::seconds kLongestWait{5};
+        LRESULT result = 0;
+        SendToRemote(window, message, wParam, lParam, kLongestWait, result);
+        return result;
+    }
     Session& session = TheSession();
     std::unique_lock<std::mutex> lock(session.mutex);
     const Window* found = FindWindowOf(session, window);
@@ -138,5 +148,21 @@ LRESULT SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const WNDPROC procedure = found->procedure;
     lock.unlock();
     return procedure(window, message, wParam, lParam);
+}
+
+LRESULT SendMessageTimeoutW(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT, UINT timeoutMs,
+                            DWORD_PTR* result) {
+    LRESULT answer = 0;
+    if (IsRemoteHandle(window)) {
+        if (!SendToRemote(window, message, wParam, lParam, std::chrono::milliseconds(timeoutMs), answer))
+            return 0;
+    } else {
+        if (!IsWindow(window))
+            return Fail(ERROR_INVALID_WINDOW_HANDLE);
+        answer = SendMessageW(window, message, wParam, lParam);
+    }
+    if (result)
+        *result = static_cast<DWORD_PTR>(answer);
+    return TRUE;
 }
 }

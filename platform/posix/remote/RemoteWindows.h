@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -37,8 +38,9 @@ std::optional<RemoteWindowNames> NamesOfRemoteWindow(HWND window);
 /// Never waits. Messages from one thread to one process arrive in their order.
 bool PostToRemoteWindow(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-/// Answers what is sent to windows of the calling thread meanwhile. 0 when the process ends before it has
-/// answered, and after five seconds.
-LRESULT SendToRemoteWindow(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+/// Answers what is sent to windows of the calling thread meanwhile. False, with `result` unchanged, when the
+/// process ends before it has answered, and when it has not answered in so long a time.
+bool SendToRemoteWindow(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                        std::chrono::milliseconds patience, LRESULT& result);
 
 }  // namespace korvane

@@ -91,7 +91,10 @@ TEST_F(Headunitctl, RefusesCommandsThatMakeNoSense) {
 }
 
 TEST_F(Headunitctl, SaysThatThereIsNoService) {
-    fs::remove_all(HostPath(L"\\NandFlash\\Application\\Bin"));
+    const std::string device = DeviceRoot();
+    const std::string bareDevice = HostPath(L"\\bare");
+    fs::create_directory(fs::u8path(bareDevice));
+    SetDeviceRoot(bareDevice);
     for (const std::vector<std::string>& command :
          {std::vector<std::string>{"get"}, std::vector<std::string>{"set", "mute", "1"},
           std::vector<std::string>{"thumbnail", "get", HostPath(L"\\thumbnail.png")}}) {
@@ -99,6 +102,7 @@ TEST_F(Headunitctl, SaysThatThereIsNoService) {
         EXPECT_EQ(answer.status, 1);
         EXPECT_TRUE(Contains(answer.errors, "service")) << answer.errors;
     }
+    SetDeviceRoot(device);
 }
 
 TEST_F(Headunitctl, SaysThatNoHeadUnitIsRunning) {

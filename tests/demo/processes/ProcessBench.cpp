@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <stdexcept>
 
+#include "module/ThumbNail.h"
 #include "platform/Simulation.h"
 #include "sysinfo/MainApplication.h"
 
@@ -56,6 +57,10 @@ ProcessBench::ProcessBench() {
     listener_ = CreateWindowExW(0, kScreenClass, L"Listener", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr,
                                 nullptr);
     SetWindowLongPtrW(listener_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    // Some systems forget the record, and the picture, when no process has them any more.
+    service_.Record();
+    CLQSurfHandle picture;
+    GetThumbNail(picture);
 }
 
 ProcessBench::~ProcessBench() {

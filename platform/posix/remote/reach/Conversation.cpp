@@ -3,19 +3,17 @@
 #include <sys/eventfd.h>
 
 #include "platform/posix/LastError.h"
-#include "platform/queue/PointerMessage.h"
 #include "platform/posix/queue/Send.h"
 #include "platform/posix/remote/Fork.h"
 #include "platform/posix/remote/RemoteWindows.h"
 #include "platform/posix/remote/reach/Neighbours.h"
 #include "platform/posix/remote/receive/Station.h"
+#include "platform/queue/PointerMessage.h"
 
 namespace korvane {
 namespace {
 
 using SteadyClock = std::chrono::steady_clock;
-
-constexpr std::chrono::seconds kLongestWait{5};
 
 // Lets the queue of the calling thread end a wait for a socket. A thread without a queue has no windows, so
 // that nothing can be sent to it.
@@ -58,8 +56,9 @@ class SocketWait {
 
 enum class Outcome { Answered, Ended, TooLate };
 
-Outcome AwaitAnswer(const Descriptor& channel, std::uint32_t serial, LRESULT& result) {
-    const auto deadline = SteadyClock::now() + kLongestWait;
+Outcome AwaitAnswer(const Descriptor& channel, std::uint32_t serial, std::chrono::milliseconds patience,
+                    LRESULT& result) {
+    const auto deadline = SteadyClock::now() + patience;
     SocketWait wait;
     for (bool inTime = true; inTime;) {
         inTime = wait.Step(channel.Number(), deadline);
@@ -109,7 +108,8 @@ void ReadMeanwhile() {
 
 }  // namespace
 
-LRESULT SendToRemoteWindow(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+bool SendToRemoteWindow(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                        std::chrono::milliseconds patience, LRESULT& result) {
     if (CarriesPointers(message))
         return Fail(ERROR_MESSAGE_SYNC_ONLY);
     PrepareForFork();
@@ -120,10 +120,9 @@ LRESULT SendToRemoteWindow(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     packet.lParam = lParam;
     Neighbours::Target target;
     Descriptor channel;
-    LRESULT result = 0;
     if (!Begin(target, window, packet, channel))
-        return 0;
-    const Outcome outcome = AwaitAnswer(channel, packet.serial, result);
+        return false;
+    const Outcome outcome = AwaitAnswer(channel, packet.serial, patience, result);
     const std::lock_guard<std::mutex> lock(TheNeighbours().mutex);
     switch (outcome) {
         case Outcome::Answered:
@@ -137,7 +136,7 @@ LRESULT SendToRemoteWindow(HWND window, UINT message, WPARAM wParam, LPARAM lPar
             SetLastError(ERROR_TIMEOUT);
             break;
     }
-    return result;
+    return outcome == Outcome::Answered;
 }
 
 }  // namespace korvane
