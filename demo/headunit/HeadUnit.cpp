@@ -195,10 +195,16 @@ void HeadUnit::ShowStick() {
     files_.PlugIn(FindSource(kUsbMusicSource)->IsPresent(record_));
 }
 
-/// Dims what the menu would lead to in vain.
+/// Shows which devices are there, and lets the source that plays go with its device and come back with it.
 void HeadUnit::ShowPresence() {
     menu_.ShowPresence(MenuItem::Media, FindSource(lastMedium_)->IsPresent(record_));
     menu_.ShowPresence(MenuItem::Files, FindSource(kUsbMusicSource)->IsPresent(record_));
+    sources_.ShowPresence(record_);
+    if (!current_ || current_->IsPresent(record_) == isSourceThere_)
+        return;
+    PlaySource();
+    if (screen_ == Screen::Player)
+        ShowScreen(Screen::Player);
 }
 
 void HeadUnit::ShowSource() {
@@ -208,20 +214,27 @@ void HeadUnit::ShowSource() {
     const bool slides = SlidesTo(*source);
     awaited_ = kNoSource;
     current_ = source;
-    if (PlaysMedium()) {
+    if (source->screen == SourceScreenKind::Media)
         lastMedium_ = source->id;
-        media_.PlaySource(*source);
-    } else {
-        media_.Rest();
-        strip_.EnablePlayTime(false);
-    }
-    sources_.ShowSource(*source);
-    menu_.MarkPlaying(MenuItem::Radio, PlaysRadio());
-    menu_.MarkPlaying(MenuItem::Media, PlaysMedium());
+    PlaySource();
     if (slides)
         SlideTo(Screen::Player);
     else
         ShowScreen(Screen::Player);
+}
+
+/// Lets the current source play, if its device is there.
+void HeadUnit::PlaySource() {
+    isSourceThere_ = current_->IsPresent(record_);
+    if (PlaysMedium()) {
+        media_.PlaySource(*current_);
+    } else {
+        media_.Rest();
+        strip_.EnablePlayTime(false);
+    }
+    sources_.ShowSource(*current_, record_);
+    menu_.MarkPlaying(MenuItem::Radio, PlaysRadio());
+    menu_.MarkPlaying(MenuItem::Media, PlaysMedium());
 }
 
 /// A source slides in over the one that played. Over another screen, which the user is busy with, it does so
@@ -271,9 +284,9 @@ void HeadUnit::Enter(Screen screen) {
 }
 
 void HeadUnit::SwitchWindows() {
-    if (current_ && current_->screen == SourceScreenKind::Other)
-        other_.ShowSource(*current_);
     const CLQWindow* const shown = &ShownWindow();
+    if (shown == &other_)
+        other_.ShowSource(*current_, record_);
     for (CLQWindow* const screen : Screens())
         screen->SetShow(screen == shown);
 }
@@ -307,7 +320,7 @@ bool HeadUnit::PlaysRadio() const {
 }
 
 bool HeadUnit::PlaysMedium() const {
-    return current_ && current_->screen == SourceScreenKind::Media;
+    return current_ && current_->screen == SourceScreenKind::Media && isSourceThere_;
 }
 
 void HeadUnit::ShowTitle() {

@@ -53,6 +53,7 @@ class HeadUnit {
     void ShowZone();
     void ShowStick();
     void ShowSource();
+    void PlaySource();
     void ShowPresence();
     bool SlidesTo(const Source& source) const;
     void ShowScreen(Screen screen);
@@ -72,6 +73,7 @@ class HeadUnit {
     CLQShareMemLink link_;
     const _LQSysInfo* record_ = nullptr;
     const Source* current_ = nullptr;
+    bool isSourceThere_ = true;         // the device of the current one
     int lastMedium_ = kUsbMusicSource;  // the one that played last
     int awaited_ = kNoSource;           // the one that the user has asked for
     bool hasPhone_ = false;

@@ -10,6 +10,8 @@ struct Look {
     _eTextColorType type;
     _LQColor color;
 };
+/// Their places among the looks.
+enum LookIndex : std::size_t { kNormal = 0, kDisabled = 3 };
 constexpr Look kLooks[] = {
     {L"_n.lqi", &CLQSwitchList::SetIconNormalSurf, eTextColor_Normal, {230, 238, 250, 255}},
     {L"_p.lqi", &CLQSwitchList::SetIconActiveSurf, eTextColor_Active, {255, 255, 255, 255}},
@@ -33,6 +35,16 @@ void ListLooks::GiveTo(CLQSwitchList& list, const std::vector<std::wstring>& nam
         _LQColor color = look.color;
         list.SetTextColor(look.type, color);
     }
+}
+
+void ListLooks::Dim(CLQSwitchList& list, const std::vector<bool>& dimmed) {
+    std::vector<CLQSurfHandle*> borrowed;
+    for (std::size_t i = 0; i < icons_[kNormal].size(); ++i) {
+        const bool isDimmed = i < dimmed.size() && dimmed[i];
+        borrowed.push_back(&icons_[isDimmed ? kDisabled : kNormal][i]);
+    }
+    list.SetIconNormalSurf(borrowed);
+    list.Invalidate();
 }
 
 }  // namespace korvane::demo

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <iterator>
 
-#include "demo/headunit/Captions.h"
-
 namespace korvane::demo {
 
 namespace {

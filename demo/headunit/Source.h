@@ -2,6 +2,8 @@
 
 #include "KorvaneEx.h"
 
+#include "demo/headunit/Captions.h"
+
 namespace korvane::demo {
 
 /// The source that plays unless another one was chosen.
@@ -14,7 +16,7 @@ enum class SourceScreenKind { Radio, Media, Other };
 struct Source {
     int id;       ///< as the main application and the system record number it
     int caption;  ///< its name in the language table
-    int hint;     ///< what there is to say about it, likewise
+    int hint;     ///< what there is to say about it while its device is there, likewise
     const wchar_t* picture;
     SourceScreenKind screen;
     /// The field of the system record that tells whether its device is there; null for one that always is.
@@ -22,6 +24,8 @@ struct Source {
 
     /// Without a record no device is.
     bool IsPresent(const _LQSysInfo* record) const { return !presence || (record && record->*presence != 0); }
+    /// What there is to say about it at the moment.
+    int HintFor(const _LQSysInfo* record) const { return IsPresent(record) ? hint : kCaptionNotConnected; }
 };
 
 /// Null for an id that is no source.

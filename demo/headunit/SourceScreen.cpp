@@ -28,10 +28,10 @@ bool SourceScreen::OnInit() {
     return true;
 }
 
-void SourceScreen::ShowSource(const Source& source) {
+void SourceScreen::ShowSource(const Source& source, const _LQSysInfo* record) {
     picture_.SetImagePath(source.picture);
     caption_.SetLangID(source.caption);
-    hint_.SetLangID(source.hint);
+    hint_.SetLangID(source.HintFor(record));
 }
 
 }  // namespace korvane::demo

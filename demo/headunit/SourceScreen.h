@@ -9,13 +9,14 @@ namespace korvane::demo {
 
 struct Source;
 
-/// The screen of a source that has none of its own: its picture, its name and a hint.
+/// The screen of a source that has none of its own, or whose device is not there: its picture, its name and
+/// a hint.
 class SourceScreen : public CLQWindow {
   public:
     std::wstring GetDialogName() override { return L"Source"; }
     bool OnInit() override;
 
-    void ShowSource(const Source& source);
+    void ShowSource(const Source& source, const _LQSysInfo* record);
     CLQButton& GetSourcesButton() { return sourcesButton_; }
     MenuButton& GetMenuButton() { return menuButton_; }
 

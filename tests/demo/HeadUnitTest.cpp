@@ -133,6 +133,16 @@ TEST_F(HeadUnitTest, ShowsNoSourceThatIsNotThere) {
     EXPECT_TRUE(ShowsRadio());
 }
 
+TEST_F(HeadUnitTest, SaysThatTheDeviceOfASourceIsNotThere) {
+    Set(L"tvPresent", 0);
+    Set(L"source", 18);
+    EXPECT_TRUE(scene_.Shows(L"Not connected"));
+    Set(L"tvPresent", 1);
+    EXPECT_FALSE(scene_.Shows(L"Not connected"));
+    Touch(kBackButton);
+    EXPECT_TRUE(ShowsRadio());
+}
+
 TEST_F(HeadUnitTest, FollowsASourceThatAnotherProcessChose) {
     Set(L"source", 12);
     EXPECT_TRUE(scene_.Shows(L"Phone"));

@@ -78,6 +78,15 @@ TEST_F(SourceListTest, SaysThatADeviceIsNotThere) {
     EXPECT_EQ(Get(L"source"), 4);
 }
 
+TEST_F(SourceListTest, DimsWhatIsNotThere) {
+    OpenList();
+    const std::vector<std::uint32_t> bright = scene_.Pixels();
+    Set(L"discAudioPresent", 0);
+    EXPECT_TRUE(LooksLike("demo-sources-no-disc"));
+    Set(L"discAudioPresent", 1);
+    EXPECT_TRUE(scene_.Pixels() == bright);
+}
+
 TEST_F(SourceListTest, OpensOnThePageOfWhatPlays) {
     Set(L"source", 13);
     OpenList();

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <vector>
 
 #include "demo/headunit/Captions.h"
 #include "demo/headunit/Source.h"
@@ -109,12 +108,24 @@ void SourcesScreen::SetShow(bool show) {
         list_.SetPageDown(playing_ >= kCellsOfPage);
 }
 
-void SourcesScreen::ShowSource(const Source& source) {
+void SourcesScreen::ShowSource(const Source& source, const _LQSysInfo* record) {
     playing_ = CellOf(source.id);
     list_.SetFouceIndex(playing_);
     picture_.SetImagePath(source.picture);
     name_.SetLangID(source.caption);
-    hint_.SetLangID(source.hint);
+    hint_.SetLangID(source.HintFor(record));
+}
+
+void SourcesScreen::ShowPresence(const _LQSysInfo* record) {
+    std::vector<bool> dimmed;
+    for (const Cell& cell : kCells) {
+        const Source* const source = FindSource(cell.source);
+        dimmed.push_back(source && !source->IsPresent(record));
+    }
+    if (dimmed == dimmed_)
+        return;
+    dimmed_ = dimmed;
+    looks_.Dim(list_, dimmed_);
 }
 
 void SourcesScreen::OnClick(int cell, bool changed) {

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "KorvaneEx.h"
 
@@ -28,7 +29,9 @@ class SourcesScreen : public CLQWindow {
     /// Called with the id of a source that was touched, also for the one that plays.
     void WhenChosen(std::function<void(int id)> handler) { onChosen_ = std::move(handler); }
     /// Shows what plays. A source that is not in the list leaves nothing selected there.
-    void ShowSource(const Source& source);
+    void ShowSource(const Source& source, const _LQSysInfo* record);
+    /// Dims the sources whose device is not there.
+    void ShowPresence(const _LQSysInfo* record);
 
   private:
     void CreateList();
@@ -42,6 +45,7 @@ class SourcesScreen : public CLQWindow {
     std::function<void(int id)> onChosen_;
 
     ListLooks looks_;  // the list borrows from it
+    std::vector<bool> dimmed_;
     CLQImageView background_;
     CLQSwitchList list_;
     CLQImageView picture_;

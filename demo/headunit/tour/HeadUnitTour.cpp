@@ -51,8 +51,6 @@ constexpr int MediaX(int column) {
 constexpr int kTransportY = 310;
 constexpr int kRepeatY = 406;
 constexpr int kProgressY = 202;
-constexpr int kMediaSourcesX = 712;
-constexpr int kMediaSourcesY = 396;
 
 constexpr int kFilesX = 400;
 constexpr int kFilesY = 234;
@@ -170,7 +168,8 @@ void ShowSources(TourScript& tour) {
     tour.Press(kSourcesX, kSourcesY).Picture("sources-pressed").Release(kSourcesX, kSourcesY);
     tour.Picture("shortcuts").Press(kShortcut2X, kShortcutY).Picture("shortcuts-disc-pressed");
     tour.Release(kShortcut2X, kShortcutY).Picture("disc").Wait(kMinuteMs + 5000).Picture("disc-plays");
-    tour.Set(L"discAudioPresent", 0).Touch(kMediaSourcesX, kMediaSourcesY).Picture("shortcuts-no-disc");
+    tour.Set(L"discAudioPresent", 0).Picture("disc-taken-out");
+    tour.Touch(kSourcesX, kSourcesY).Picture("shortcuts-no-disc");
     tour.Press(kPanelBackX, kPanelBackY).Picture("shortcuts-back-pressed").Release(kPanelBackX, kPanelBackY);
     tour.Press(kBackX, kStripY).Picture("back-pressed").Release(kBackX, kStripY).Picture("radio-again");
     tour.Press(kGuideX, kStripY).Picture("guide-pressed").Release(kGuideX, kStripY).Picture("navigation");

@@ -261,6 +261,38 @@ TEST_F(MediaScreenTest, KeepsItsPlaceToTheFractionOfASecond) {
     EXPECT_TRUE(ShowsTime(L"1:01"));
 }
 
+TEST_F(MediaScreenTest, GoesWithItsDeviceAndComesBackWithIt) {
+    Set(L"source", kStick);
+    scene_.Advance(10 * kSecondMs);
+    Set(L"usbPresent", 0);
+    EXPECT_TRUE(scene_.Shows(L"Not connected"));
+    EXPECT_TRUE(scene_.ShowsControl(L"BtnBack"));
+    EXPECT_EQ(CountLabels(L"0:10"), 0);
+    scene_.Advance(10 * kSecondMs);
+    EXPECT_FALSE(scene_.Shows(L"Night Drive"));
+    Set(L"usbPresent", 1);
+    EXPECT_TRUE(scene_.Shows(L"Night Drive"));
+    EXPECT_TRUE(ShowsTime(L"0:10"));
+    scene_.Advance(kSecondMs);
+    EXPECT_TRUE(ShowsTime(L"0:11"));
+}
+
+TEST_F(MediaScreenTest, GoesWithItsDeviceUnderAFingerAndBehindTheMenu) {
+    Set(L"source", kStick);
+    scene_.Press(ThumbX(0), kTrackRow);
+    Set(L"usbPresent", 0);
+    scene_.Release(ThumbX(0), kTrackRow);
+    Set(L"usbPresent", 1);
+    scene_.Advance(kSecondMs);
+    EXPECT_TRUE(ShowsTime(L"0:01"));
+    Touch(kMenuButton);
+    Set(L"usbPresent", 0);
+    EXPECT_TRUE(scene_.Shows(L"Menu"));
+    EXPECT_EQ(CountLabels(L"0:01"), 0);
+    Touch(kBackButton);
+    EXPECT_TRUE(scene_.Shows(L"Not connected"));
+}
+
 TEST_F(MediaScreenTest, PlaysOnBehindAnotherScreen) {
     PlayDisc();
     Touch(kMenuButton);
@@ -319,7 +351,7 @@ TEST(MediaScreenOnALargeScreen, LooksAsItDoesOnItsOwn) {
     };
     test::DemoScene scene;
     tools::SystemService service;
-    ASSERT_TRUE(service.SetValue(L"source", kDisc));
+    ASSERT_TRUE(service.SetValue(L"discAudioPresent", 1) && service.SetValue(L"source", kDisc));
     const std::vector<std::uint32_t> alone = repeat(scene, {0, 0});
     CLQScreen* const screen = CLQScreen::GetInstance();
     screen->Close();
