@@ -8,6 +8,7 @@
 #include "module/ThumbNail.h"
 #include "platform/Simulation.h"
 #include "sysinfo/MainApplication.h"
+#include "sysinfo/SysInfoFields.h"
 
 namespace korvane::test {
 
@@ -119,6 +120,13 @@ png::Picture ProcessBench::Screenshot() {
     std::error_code ignored;
     std::filesystem::remove(file, ignored);
     return picture;
+}
+
+std::string ProcessBench::Record() {
+    std::string fields;
+    for (const SysInfoField& field : kSysInfoFields)
+        fields += std::to_string(Get(field.name)) + " ";
+    return fields;
 }
 
 bool ProcessBench::AwaitCount() {

@@ -39,6 +39,8 @@ class ProcessBench : public testing::Test {
     png::Picture Screenshot();
 
     int Get(const wchar_t* field) { return service_.Value(field, -1); }
+    /// All fields, to be compared.
+    std::string Record();
     /// Waits until a service user has counted on.
     bool AwaitCount();
     /// Waits until the service has told of a change of that item, or has done so since it was waited for

@@ -29,12 +29,6 @@ class ThreeProcesses : public ProcessBench {
         const Answer answer = Ctl({"set", field, std::to_string(value)});
         ASSERT_EQ(answer.status, 0) << answer.errors;
     }
-    std::string Record() {
-        std::string fields;
-        for (const SysInfoField& field : kSysInfoFields)
-            fields += std::to_string(Get(field.name)) + " ";
-        return fields;
-    }
 };
 
 }  // namespace
@@ -131,16 +125,6 @@ TEST_F(ThreeProcesses, LetOneOfAKindInOfManyThatStartAtOnce) {
             running += program->WaitForLine(ready) ? 1 : 0;
         EXPECT_EQ(running, 1) << ready;
     }
-}
-
-TEST_F(ThreeProcesses, AreNotDisturbedByATour) {
-    const auto headUnit = StartHeadUnit();
-    const png::Picture radio = Screenshot();
-    const std::string record = Record();
-    Program tour({KORVANE_TEST_HEADUNIT, "--tour", HostPath(L"\\tour"), "--device-root", DeviceRoot()});
-    EXPECT_EQ(tour.Wait(), 0) << tour.Errors();
-    EXPECT_EQ(Record(), record);
-    EXPECT_TRUE(AwaitSame(radio, kContent));
 }
 
 /// Where the main application lives: in a process of its own, or in the head unit's.
