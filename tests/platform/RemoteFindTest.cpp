@@ -180,32 +180,38 @@ TEST(EnumWindows, GivesTheTopLevelWindowsOfAllProcesses) {
     EXPECT_EQ(newer.Ask("list"), "[Korvane.Test own][Korvane.Peer c][Korvane.Peer b][Korvane.Peer a]");
 }
 
+BOOL CALLBACK CountOne(HWND, LPARAM count) {
+    ++*reinterpret_cast<int*>(count);
+    return FALSE;
+}
+
 TEST(EnumWindows, EndsWhenItsProcedureSaysSo) {
     const TestWindow first;
     const TestWindow second;
     int seen = 0;
-    const WNDENUMPROC procedure = [](HWND, LPARAM count) -> BOOL {
-        ++*reinterpret_cast<int*>(count);
-        return FALSE;
-    };
-    EXPECT_FALSE(EnumWindows(procedure, reinterpret_cast<LPARAM>(&seen)));
+    EXPECT_FALSE(EnumWindows(&CountOne, reinterpret_cast<LPARAM>(&seen)));
     EXPECT_EQ(seen, 1);
 }
 
+/// Two windows of which the older ends as soon as any window is listed, and how many of them were listed.
+struct DoomedWindows {
+    std::unique_ptr<TestWindow> older = std::make_unique<TestWindow>();
+    std::unique_ptr<TestWindow> newer = std::make_unique<TestWindow>();
+    int listed = 0;
+};
+
+BOOL CALLBACK CountAndDestroy(HWND window, LPARAM parameter) {
+    auto& windows = *reinterpret_cast<DoomedWindows*>(parameter);
+    if (ClassOf(window) == L"Korvane.Test")
+        ++windows.listed;
+    windows.older.reset();
+    return TRUE;
+}
+
 TEST(EnumWindows, LeavesOutWhatItsProcedureDestroys) {
-    static std::unique_ptr<TestWindow> windows[2];
-    for (auto& window : windows)
-        window = std::make_unique<TestWindow>();
-    int seen = 0;
-    const WNDENUMPROC procedure = [](HWND window, LPARAM count) -> BOOL {
-        if (ClassOf(window) == L"Korvane.Test")
-            ++*reinterpret_cast<int*>(count);
-        windows[0].reset();
-        return TRUE;
-    };
-    EXPECT_TRUE(EnumWindows(procedure, reinterpret_cast<LPARAM>(&seen)));
-    EXPECT_EQ(seen, 1);
-    windows[1].reset();
+    DoomedWindows windows;
+    EXPECT_TRUE(EnumWindows(&CountAndDestroy, reinterpret_cast<LPARAM>(&windows)));
+    EXPECT_EQ(windows.listed, 1);
 }
 
 TEST(EnumWindows, DoesNotTakeAWindowOfThisProcessForAnothers) {
