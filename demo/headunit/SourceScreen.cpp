@@ -1,5 +1,6 @@
 #include "demo/headunit/SourceScreen.h"
 
+#include "demo/headunit/Label.h"
 #include "demo/headunit/Source.h"
 
 namespace korvane::demo {
@@ -9,16 +10,10 @@ bool SourceScreen::OnInit() {
     picture_.Create(280, 88, 240, 240);
     AddChild(&picture_);
 
-    caption_.Create(100, 340, 600, 48);
-    caption_.SetFontSize(34, 34);
-    caption_.SetTextStyle(eText_HCenter | eText_VCenter);
+    PlaceLabel(caption_, {100, 700, 340, 388}, 34, eText_HCenter);
     AddChild(&caption_);
 
-    _LQColor grey = {159, 180, 208, 255};
-    hint_.Create(100, 390, 600, 36);
-    hint_.SetFontSize(22, 22);
-    hint_.SetTextStyle(eText_HCenter | eText_VCenter);
-    hint_.SetTextColor(grey);
+    PlaceLabel(hint_, {100, 700, 390, 426}, 22, eText_HCenter, LabelColor::Grey);
     AddChild(&hint_);
 
     sourcesButton_.Place(620, 172);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "demo/headunit/Captions.h"
+#include "demo/headunit/Label.h"
 #include "demo/headunit/files/FittedName.h"
 #include "demo/headunit/files/Music.h"
 #include "demo/headunit/files/SizeText.h"
@@ -20,18 +21,6 @@ constexpr int kLargeText = 22;
 constexpr int kSmallText = 16;
 constexpr wchar_t kMedium[] = L"\\USB";
 constexpr wchar_t kMediumName[] = L"MY USB";
-
-_LQColor Grey() {
-    return {159, 180, 208, 255};
-}
-
-/// A line of text, on which touches go through to what lies below.
-void PlaceLabel(CLQStatic& label, const _LQRect& place, int size, int style) {
-    label.Create(place.left, place.top, place.right - place.left, place.bottom - place.top);
-    label.SetFontSize(size, size);
-    label.SetTextStyle(style | eText_VCenter);
-    label.EnableRecvMsg(false);
-}
 
 }  // namespace
 
@@ -59,9 +48,7 @@ void FilesScreen::CreateFolderLabels() {
     folder_.EnableTextScroll(true);
     folder_.EnableScrollTextTooLong(true);
     folder_.SetTextScrollNum(1);
-    PlaceLabel(number_, {24, 164, 112, 140}, 20, eText_Left);
-    _LQColor grey = Grey();
-    number_.SetTextColor(grey);
+    PlaceLabel(number_, {24, 164, 112, 140}, 20, eText_Left, LabelColor::Grey);
     AddChild(&folder_);
     AddChild(&number_);
 }
@@ -83,9 +70,7 @@ void FilesScreen::CreateView() {
     view_.LQ_FV_Register(reinterpret_cast<void*>(onRequest));
     AddChild(&view_);
 
-    PlaceLabel(hint_, {150, 650, 342, 370}, 18, eText_HCenter);
-    _LQColor grey = Grey();
-    hint_.SetTextColor(grey);
+    PlaceLabel(hint_, {150, 650, 342, 370}, 18, eText_HCenter, LabelColor::Grey);
     AddChild(&hint_);
 }
 

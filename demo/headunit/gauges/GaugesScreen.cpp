@@ -2,6 +2,7 @@
 
 #include <iterator>
 
+#include "demo/headunit/ButtonLooks.h"
 #include "demo/headunit/Captions.h"
 #include "demo/headunit/gauges/Drive.h"
 
@@ -68,10 +69,7 @@ void GaugesScreen::CreateReadouts() {
 
 void GaugesScreen::CreateDriveButton() {
     driveButton_.Create(kReadoutLeft, 388, 260, 72);
-    driveButton_.SetImagePath(0, eImage_Normal, L"DriveButton_n.lqi");
-    driveButton_.SetImagePath(0, eImage_Pressed, L"DriveButton_p.lqi");
-    driveButton_.SetImagePath(0, eImage_Focus, L"DriveButton_f.lqi");
-    driveButton_.SetImagePath(0, eImage_Disabled, L"DriveButton_d.lqi");
+    SetButtonLooks(driveButton_, 0, L"DriveButton");
     // The button owns its elements.
     auto* caption = new CLQTextElement;
     caption->SetFontSize(26, 26);

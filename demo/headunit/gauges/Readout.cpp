@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "demo/headunit/Label.h"
+
 namespace korvane::demo {
 
 namespace {
@@ -10,24 +12,14 @@ constexpr int kNumberTop = 26;
 constexpr int kNumberWidth = 124;
 constexpr int kUnitLeft = 136;
 
-void SetLook(CLQStatic& label, int size, int style, _LQColor color) {
-    label.SetFontSize(size, size);
-    label.SetTextStyle(style);
-    label.SetTextColor(color);
-}
-
 }  // namespace
 
 void Readout::Place(CLQWindow& window, int x, int y, int caption, int unit) {
-    const _LQColor grey = {159, 180, 208, 255};
-    const _LQColor white = {255, 255, 255, 255};
-    caption_.Create(x, y, kWidth, 28);
-    SetLook(caption_, 22, eText_Left | eText_VCenter, grey);
+    PlaceLabel(caption_, {x, x + kWidth, y, y + 28}, 22, eText_Left, LabelColor::Grey);
     caption_.SetLangID(caption);
-    number_.Create(x, y + kNumberTop, kNumberWidth, kHeight - kNumberTop);
-    SetLook(number_, 48, eText_Right | eText_VCenter, white);
-    unit_.Create(x + kUnitLeft, y + kNumberTop + 8, kWidth - kUnitLeft, kHeight - kNumberTop - 8);
-    SetLook(unit_, 24, eText_Left | eText_VCenter, grey);
+    PlaceLabel(number_, {x, x + kNumberWidth, y + kNumberTop, y + kHeight}, 48, eText_Right);
+    PlaceLabel(unit_, {x + kUnitLeft, x + kWidth, y + kNumberTop + 8, y + kHeight}, 24, eText_Left,
+               LabelColor::Grey);
     if (unit != 0)
         unit_.SetLangID(unit);
     else

@@ -1,6 +1,8 @@
 #include "demo/headunit/media/MediaScreen.h"
 
+#include "demo/headunit/ButtonLooks.h"
 #include "demo/headunit/Captions.h"
+#include "demo/headunit/Label.h"
 #include "demo/headunit/Source.h"
 #include "demo/headunit/media/PlayTimeText.h"
 
@@ -11,29 +13,10 @@ namespace {
 constexpr int kTransportTop = 268;
 constexpr int kRepeatTop = 364;
 
-_LQColor Grey() {
-    return {159, 180, 208, 255};
-}
-
-/// A line of text, on which touches go through to what lies below.
-void PlaceLabel(CLQStatic& label, const _LQRect& place, int size, int style) {
-    label.Create(place.left, place.top, place.right - place.left, place.bottom - place.top);
-    label.SetFontSize(size, size);
-    label.SetTextStyle(style | eText_VCenter);
-    label.EnableRecvMsg(false);
-}
-
-void SetPicture(CLQButton& button, const std::wstring& picture) {
-    button.SetImagePath(0, eImage_Normal, (picture + L"_n.lqi").c_str());
-    button.SetImagePath(0, eImage_Pressed, (picture + L"_p.lqi").c_str());
-    button.SetImagePath(0, eImage_Focus, (picture + L"_f.lqi").c_str());
-    button.SetImagePath(0, eImage_Disabled, (picture + L"_d.lqi").c_str());
-}
-
 /// One of three side by side, in the middle of the screen.
 void PlaceButton(CLQButton& button, int column, int top, const wchar_t* picture) {
     button.Create(182 + 150 * column, top, 136, 84);
-    SetPicture(button, picture);
+    SetButtonLooks(button, 0, picture);
     button.EnableFocus(true);
 }
 
@@ -60,9 +43,7 @@ void MediaScreen::CreateTrackLabels() {
     title_.EnableScrollTextTooLong(true);
     title_.SetTextScrollNum(1);
     AddChild(&title_);
-    _LQColor grey = Grey();
-    PlaceLabel(artist_, {64, 736, 114, 144}, 20, eText_HCenter);
-    artist_.SetTextColor(grey);
+    PlaceLabel(artist_, {64, 736, 114, 144}, 20, eText_HCenter, LabelColor::Grey);
     AddChild(&artist_);
 }
 
@@ -76,11 +57,8 @@ void MediaScreen::CreateProgress() {
     AddChild(&progress_);
 
     PlaceLabel(elapsed_, {64, 184, 226, 252}, 20, eText_Left);
-    PlaceLabel(state_, {184, 616, 226, 252}, 20, eText_HCenter);
-    PlaceLabel(length_, {616, 736, 226, 252}, 20, eText_Right);
-    _LQColor grey = Grey();
-    state_.SetTextColor(grey);
-    length_.SetTextColor(grey);
+    PlaceLabel(state_, {184, 616, 226, 252}, 20, eText_HCenter, LabelColor::Grey);
+    PlaceLabel(length_, {616, 736, 226, 252}, 20, eText_Right, LabelColor::Grey);
     for (CLQStatic* const label : {&elapsed_, &state_, &length_})
         AddChild(label);
 }
@@ -203,7 +181,7 @@ void MediaScreen::ShowPassage() {
 
 void MediaScreen::ShowState() {
     const bool isPlaying = player_->IsPlaying();
-    SetPicture(play_, isPlaying ? L"media_pause" : L"media_play");
+    SetButtonLooks(play_, 0, isPlaying ? L"media_pause" : L"media_play");
     if (!isPlaying)
         state_.SetLangID(kCaptionPause);
     else

@@ -1,15 +1,13 @@
 #include "demo/headunit/menu/MenuButton.h"
 
+#include "demo/headunit/ButtonLooks.h"
 #include "demo/headunit/Captions.h"
 
 namespace korvane::demo {
 
 void MenuButton::Place() {
     Create(20, 430, 136, 46);
-    SetImagePath(0, eImage_Normal, L"Menu_n.lqi");
-    SetImagePath(0, eImage_Pressed, L"Menu_p.lqi");
-    SetImagePath(0, eImage_Focus, L"Menu_f.lqi");
-    SetImagePath(0, eImage_Disabled, L"Menu_d.lqi");
+    SetButtonLooks(*this, 0, L"Menu");
     // The button owns its elements.
     auto* caption = new CLQTextElement;
     caption->SetFontSize(22, 22);

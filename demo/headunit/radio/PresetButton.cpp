@@ -1,13 +1,12 @@
 #include "demo/headunit/radio/PresetButton.h"
 
+#include "demo/headunit/ButtonLooks.h"
+
 namespace korvane::demo {
 
 void PresetButton::Place(int x, int y, int number) {
     Create(x, y, kWidth, kHeight);
-    SetImagePath(0, eImage_Normal, L"PresetButton_n.lqi");
-    SetImagePath(0, eImage_Pressed, L"PresetButton_p.lqi");
-    SetImagePath(0, eImage_Focus, L"PresetButton_f.lqi");
-    SetImagePath(0, eImage_Disabled, L"PresetButton_d.lqi");
+    SetButtonLooks(*this, 0, L"PresetButton");
 
     // The button owns its elements.
     _LQColor black = {0, 0, 0, 255};

@@ -1,6 +1,7 @@
 #include "demo/headunit/radio/PresetsScreen.h"
 
 #include "demo/headunit/Captions.h"
+#include "demo/headunit/Label.h"
 
 namespace korvane::demo {
 
@@ -44,16 +45,10 @@ void PresetsScreen::CreateScale() {
 }
 
 void PresetsScreen::CreateReadout() {
-    frequency_.Create(220, 84, 230, 92);
-    frequency_.SetFontSize(72, 72);
-    frequency_.SetTextStyle(eText_Right | eText_VCenter);
+    PlaceLabel(frequency_, {220, 450, 84, 176}, 72, eText_Right);
     AddChild(&frequency_);
 
-    _LQColor grey = {159, 180, 208, 255};
-    unit_.Create(464, 113, 120, 50);
-    unit_.SetFontSize(30, 30);
-    unit_.SetTextStyle(eText_Left | eText_VCenter);
-    unit_.SetTextColor(grey);
+    PlaceLabel(unit_, {464, 584, 113, 163}, 30, eText_Left, LabelColor::Grey);
     AddChild(&unit_);
 
     bandButton_.Place(624, 78);
@@ -69,11 +64,7 @@ void PresetsScreen::CreatePresets() {
         button.WhenHeld([this, i] { Store(i); });
         AddChild(&button);
     }
-    _LQColor grey = {159, 180, 208, 255};
-    hint_.Create(kLeft, 434, 540, 32);
-    hint_.SetFontSize(22, 22);
-    hint_.SetTextStyle(eText_HCenter | eText_VCenter);
-    hint_.SetTextColor(grey);
+    PlaceLabel(hint_, {kLeft, kLeft + 540, 434, 466}, 22, eText_HCenter, LabelColor::Grey);
     hint_.SetLangID(kCaptionHoldToStore);
     AddChild(&hint_);
 }

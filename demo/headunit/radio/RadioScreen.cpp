@@ -1,6 +1,8 @@
 #include "demo/headunit/radio/RadioScreen.h"
 
+#include "demo/headunit/ButtonLooks.h"
 #include "demo/headunit/Captions.h"
+#include "demo/headunit/Label.h"
 
 namespace korvane::demo {
 
@@ -10,18 +12,6 @@ constexpr int kWheelLeft = 248;
 constexpr int kWheelTop = 118;
 /// Whole numbers stand higher in the wheel than decimals do: this far lower, both look centred in the lens.
 constexpr int kWholeNumberDrop = 6;
-
-_LQColor Grey() {
-    return {159, 180, 208, 255};
-}
-
-/// A line of text inside a rectangle.
-void CreateLabel(CLQStatic& label, const _LQRect& place, int size, int style, _LQColor color) {
-    label.Create(place.left, place.top, place.right - place.left, place.bottom - place.top);
-    label.SetFontSize(size, size);
-    label.SetTextStyle(style);
-    label.SetTextColor(color);
-}
 
 }  // namespace
 
@@ -68,14 +58,14 @@ void RadioScreen::CreateBandSlider() {
     bandSlider_.AddCallBack(kEventValueChanged, this, &RadioScreen::OnBandSlider);
     AddChild(&bandSlider_);
 
-    CreateLabel(lowest_, {20, 112, 390, 426}, 22, eText_Right | eText_VCenter, Grey());
-    CreateLabel(highest_, {688, 780, 390, 426}, 22, eText_Left | eText_VCenter, Grey());
+    PlaceLabel(lowest_, {20, 112, 390, 426}, 22, eText_Right, LabelColor::Grey);
+    PlaceLabel(highest_, {688, 780, 390, 426}, 22, eText_Left, LabelColor::Grey);
     AddChild(&lowest_);
     AddChild(&highest_);
 }
 
 void RadioScreen::CreateHint() {
-    CreateLabel(hint_, {200, 600, 430, 466}, 22, eText_HCenter | eText_VCenter, Grey());
+    PlaceLabel(hint_, {200, 600, 430, 466}, 22, eText_HCenter, LabelColor::Grey);
     hint_.SetLangID(kCaptionSwipeToSeek);
     AddChild(&hint_);
 }
@@ -90,10 +80,7 @@ void RadioScreen::CreateButtons() {
     AddChild(&menuButton_);
 
     presetsButton_.Create(612, 430, 168, 46);
-    presetsButton_.SetImagePath(0, eImage_Normal, L"Presets_n.lqi");
-    presetsButton_.SetImagePath(0, eImage_Pressed, L"Presets_p.lqi");
-    presetsButton_.SetImagePath(0, eImage_Focus, L"Presets_f.lqi");
-    presetsButton_.SetImagePath(0, eImage_Disabled, L"Presets_d.lqi");
+    SetButtonLooks(presetsButton_, 0, L"Presets");
     // The button owns its elements.
     auto* caption = new CLQTextElement;
     caption->SetFontSize(22, 22);

@@ -1,6 +1,6 @@
 #include "demo/headunit/settings/SettingSwitch.h"
 
-#include <string>
+#include "demo/headunit/ButtonLooks.h"
 
 namespace korvane::demo {
 
@@ -9,21 +9,11 @@ namespace {
 /// The elements: the plate, which a button has from the start, and what is put on it.
 enum Element : int { kPlate = 0, kKnob = 1 };
 
-struct StateImage {
-    _eImageType state;
-    const wchar_t* ending;
-};
-constexpr StateImage kStates[] = {{eImage_Normal, L"_n.lqi"},
-                                  {eImage_Pressed, L"_p.lqi"},
-                                  {eImage_Focus, L"_f.lqi"},
-                                  {eImage_Disabled, L"_d.lqi"}};
-
 }  // namespace
 
 void SettingSwitch::Place(int x, int y, int caption) {
     Create(x, y, kWidth, kHeight);
-    for (const StateImage& image : kStates)
-        SetImagePath(kPlate, image.state, (std::wstring(L"SettingRow") + image.ending).c_str());
+    SetButtonLooks(*this, kPlate, L"SettingRow");
     // The button owns its elements.
     auto* const knob = new CLQImageElement;
     knob->SetRect(330, 17, 96, 48);
@@ -47,9 +37,7 @@ void SettingSwitch::ShowState(bool isOn) {
 }
 
 void SettingSwitch::ShowKnob() {
-    const std::wstring name = isOn_ ? L"SwitchOn" : L"SwitchOff";
-    for (const StateImage& image : kStates)
-        SetImagePath(kKnob, image.state, (name + image.ending).c_str());
+    SetButtonLooks(*this, kKnob, isOn_ ? L"SwitchOn" : L"SwitchOff");
 }
 
 void SettingSwitch::OnReleased() {

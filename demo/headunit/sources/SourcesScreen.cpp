@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "demo/headunit/Captions.h"
+#include "demo/headunit/Label.h"
 #include "demo/headunit/Source.h"
 
 namespace korvane::demo {
@@ -89,16 +90,10 @@ void SourcesScreen::CreatePicture() {
     picture_.Create(430, top_ + 100, 240, 240);
     AddChild(&picture_);
 
-    name_.Create(330, top_ + 350, 440, 48);
-    name_.SetFontSize(34, 34);
-    name_.SetTextStyle(eText_HCenter | eText_VCenter);
+    PlaceLabel(name_, {330, 770, top_ + 350, top_ + 398}, 34, eText_HCenter);
     AddChild(&name_);
 
-    _LQColor grey = {159, 180, 208, 255};
-    hint_.Create(330, top_ + 400, 440, 36);
-    hint_.SetFontSize(22, 22);
-    hint_.SetTextStyle(eText_HCenter | eText_VCenter);
-    hint_.SetTextColor(grey);
+    PlaceLabel(hint_, {330, 770, top_ + 400, top_ + 436}, 22, eText_HCenter, LabelColor::Grey);
     AddChild(&hint_);
 }
 
