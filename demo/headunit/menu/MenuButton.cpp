@@ -10,7 +10,7 @@ void MenuButton::Place() {
     SetButtonLooks(*this, 0, L"Menu");
     // The button owns its elements.
     auto* caption = new CLQTextElement;
-    caption->SetFontSize(22, 22);
+    caption->SetFontSize(20, 20);
     caption->SetRect(44, 6, 86, 32);
     AddGUIElement(caption);
     SetLangID(kCaptionMenu);

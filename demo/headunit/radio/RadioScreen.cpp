@@ -83,7 +83,7 @@ void RadioScreen::CreateButtons() {
     SetButtonLooks(presetsButton_, 0, L"Presets");
     // The button owns its elements.
     auto* caption = new CLQTextElement;
-    caption->SetFontSize(22, 22);
+    caption->SetFontSize(20, 20);
     caption->SetRect(44, 6, 118, 32);
     presetsButton_.AddGUIElement(caption);
     presetsButton_.SetLangID(kCaptionPresets);
