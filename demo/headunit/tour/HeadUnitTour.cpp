@@ -219,7 +219,8 @@ void ShowMedia(TourScript& tour) {
     tour.Touch(MediaX(1), kTransportY).Wait(5000).Picture("media-paused").Touch(MediaX(1), kTransportY);
     tour.Touch(MediaX(0), kTransportY).Touch(MediaX(0), kTransportY).Wait(4000).Picture("media-long-title");
     tour.Set(L"source", 6).Touch(MediaX(2), kTransportY).Wait(12000).Picture("media-stick");
-    tour.Set(L"source", 5).Set(L"language", 11).Wait(3900000).Picture("media-film-greek").Set(L"language", 0);
+    tour.Set(L"discVideoPresent", 1).Set(L"source", 5).Set(L"language", 11).Wait(3900000);
+    tour.Picture("media-film-greek").Set(L"language", 0);
 }
 
 void OpenEntry(TourScript& tour) {
