@@ -98,6 +98,17 @@ TEST_F(MenuTest, MakesRoomForASourceThatSomebodyElseChose) {
     EXPECT_TRUE(scene_.Shows(L"Phone"));
 }
 
+TEST_F(MenuTest, TakesNoTileInHandThatWentFromUnderTheFinger) {
+    Touch(kMenuButton);
+    scene_.Press(kMediaTile.x, kMediaTile.y);
+    Set(L"source", 12);
+    scene_.Advance(3000);
+    scene_.Release(kMediaTile.x, kMediaTile.y);
+    Touch(kMenuButton);
+    EXPECT_TRUE(ShowsMenu());
+    EXPECT_TRUE(scene_.Shows(L"Menu")) << "and not what to do with a tile in hand";
+}
+
 TEST_F(MenuTest, MarksWhatPlays) {
     Touch(kMenuButton);
     const std::uint32_t marked = RadioMark();
