@@ -1,5 +1,7 @@
 #include "demo/headunit/ListLooks.h"
 
+#include <string>
+
 namespace korvane::demo {
 
 namespace {
@@ -21,13 +23,14 @@ constexpr Look kLooks[] = {
 
 }  // namespace
 
-void ListLooks::GiveTo(CLQSwitchList& list, const std::vector<std::wstring>& names) {
+void ListLooks::GiveTo(CLQSwitchList& list, const std::vector<ListCell>& cells) {
     for (std::size_t i = 0; i < icons_.size(); ++i) {
         const Look& look = kLooks[i];
         icons_[i].clear();
-        for (const std::wstring& name : names)
-            icons_[i].push_back(
-                CLQSurfManager::GetInstance()->CreateSurface((name + look.ending).c_str(), true));
+        for (const ListCell& cell : cells) {
+            const std::wstring file = std::wstring(cell.icon) + look.ending;
+            icons_[i].push_back(CLQSurfManager::GetInstance()->CreateSurface(file.c_str(), true));
+        }
         std::vector<CLQSurfHandle*> borrowed;
         for (CLQSurfHandle& icon : icons_[i])
             borrowed.push_back(&icon);
@@ -35,6 +38,10 @@ void ListLooks::GiveTo(CLQSwitchList& list, const std::vector<std::wstring>& nam
         _LQColor color = look.color;
         list.SetTextColor(look.type, color);
     }
+    std::vector<int> captions;
+    for (const ListCell& cell : cells)
+        captions.push_back(cell.caption);
+    list.SetText(captions);
 }
 
 void ListLooks::Dim(CLQSwitchList& list, const std::vector<bool>& dimmed) {

@@ -1,20 +1,27 @@
 #pragma once
 
 #include <array>
-#include <string>
 #include <vector>
 
 #include "KorvaneEx.h"
 
 namespace korvane::demo {
 
+/// A cell of a list.
+struct ListCell {
+    static constexpr int kSwitchesPages = -1;
+
+    int value;            ///< what it stands for, or kSwitchesPages
+    int caption;          ///< its text in the language table
+    const wchar_t* icon;  ///< "<icon>_n.lqi" is the normal one, _p while touched, _f when selected, _d dimmed
+};
+
 /// The four looks of the head unit's lists: icons, and colours of the captions. A list borrows its icons, so
 /// its looks end after it.
 class ListLooks {
   public:
-    /// Gives them to a list. A name is that of an item's icon, which has an image file for each look:
-    /// "<name>_n.lqi" for the normal one, _p while it is touched, _f for the selected one, _d when disabled.
-    void GiveTo(CLQSwitchList& list, const std::vector<std::wstring>& names);
+    /// Gives them to a list, and the captions.
+    void GiveTo(CLQSwitchList& list, const std::vector<ListCell>& cells);
     /// Gives some of its items, one flag an item, the icons of disabled ones. They take touches as before.
     void Dim(CLQSwitchList& list, const std::vector<bool>& dimmed);
 

@@ -2,7 +2,6 @@
 
 #include <cwchar>
 #include <iterator>
-#include <vector>
 
 #include "demo/headunit/Captions.h"
 #include "demo/headunit/LanguageFile.h"
@@ -26,18 +25,22 @@ constexpr wchar_t kChoice[] = L"LanguageCell";
 constexpr wchar_t kPageDown[] = L"LanguageMore";
 constexpr wchar_t kPageUp[] = L"LanguageBack";
 
-/// A cell of the list: the language's id in the system record, or kNone where it switches pages.
-struct Cell {
-    int language;
-    int caption;
-    const wchar_t* icon;
-};
-constexpr Cell kCells[] = {
-    {5, kCaptionGerman, kChoice},     {0, kCaptionEnglish, kChoice},  {7, kCaptionSpanish, kChoice},
-    {4, kCaptionFrench, kChoice},     {6, kCaptionItalian, kChoice},  {8, kCaptionDutch, kChoice},
-    {kNone, kCaptionMore, kPageDown}, {10, kCaptionPolish, kChoice},  {17, kCaptionPortuguese, kChoice},
-    {9, kCaptionSwedish, kChoice},    {11, kCaptionGreek, kChoice},   {1, kCaptionChinese, kChoice},
-    {16, kCaptionJapanese, kChoice},  {kNone, kCaptionMore, kPageUp},
+/// The values are the languages' ids in the system record.
+constexpr ListCell kCells[] = {
+    {5, kCaptionGerman, kChoice},
+    {0, kCaptionEnglish, kChoice},
+    {7, kCaptionSpanish, kChoice},
+    {4, kCaptionFrench, kChoice},
+    {6, kCaptionItalian, kChoice},
+    {8, kCaptionDutch, kChoice},
+    {ListCell::kSwitchesPages, kCaptionMore, kPageDown},
+    {10, kCaptionPolish, kChoice},
+    {17, kCaptionPortuguese, kChoice},
+    {9, kCaptionSwedish, kChoice},
+    {11, kCaptionGreek, kChoice},
+    {1, kCaptionChinese, kChoice},
+    {16, kCaptionJapanese, kChoice},
+    {ListCell::kSwitchesPages, kCaptionMore, kPageUp},
 };
 
 /// A switch: the item of the record that it sets, and the field that holds it.
@@ -56,8 +59,8 @@ constexpr Switch kSwitchRows[] = {
 /// Several ids share a language table; any of them selects its cell.
 int CellOf(unsigned char language) {
     for (int i = 0; i < static_cast<int>(std::size(kCells)); ++i) {
-        const int own = kCells[i].language;
-        if (own != kNone &&
+        const int own = kCells[i].value;
+        if (own != ListCell::kSwitchesPages &&
             std::wcscmp(LanguageFile(static_cast<unsigned char>(own)), LanguageFile(language)) == 0)
             return i;
     }
@@ -97,14 +100,7 @@ void SettingsScreen::CreateList() {
 
     list_.Create(50, top_ + 77 - kCaptionDrop, kCellWidth, kListHeight);
     list_.SetIconNumPrePage(kCellsOfPage);
-    std::vector<std::wstring> icons;
-    std::vector<int> captions;
-    for (const Cell& cell : kCells) {
-        icons.emplace_back(cell.icon);
-        captions.push_back(cell.caption);
-    }
-    looks_.GiveTo(list_, icons);
-    list_.SetText(captions);
+    looks_.GiveTo(list_, {std::begin(kCells), std::end(kCells)});
     list_.SetFontSize(22, 22);
     // The callback gets no context.
     list_.SetCallBackClick([](int cell, bool changed) {
@@ -146,8 +142,8 @@ void SettingsScreen::ShowRecord(const _LQSysInfo* record) {
 }
 
 void SettingsScreen::OnClick(int cell, bool changed) {
-    const int language = kCells[cell].language;
-    if (language == kNone)
+    const int language = kCells[cell].value;
+    if (language == ListCell::kSwitchesPages)
         return;
     // A click on the selected language has taken the selection away.
     if (!changed)

@@ -14,28 +14,24 @@ namespace {
 constexpr int kNone = -1;
 constexpr int kCellsOfPage = 5;
 
-/// A cell of the list: its source, or kNone where it switches pages.
-struct Cell {
-    int source;
-    int caption;
-    const wchar_t* icon;
-};
-constexpr Cell kCells[] = {
+/// The values are those of the sources.
+constexpr ListCell kCells[] = {
     {kRadioSource, kCaptionTuner, L"switch_tuner"},
     {37, kCaptionDab, L"switch_dab"},
     {4, kCaptionDiscAudio, L"switch_disc_audio"},
     {kUsbMusicSource, kCaptionUsbAudio, L"switch_usb_audio"},
-    {kNone, kCaptionMore, L"switch_page_down"},
+    {ListCell::kSwitchesPages, kCaptionMore, L"switch_page_down"},
     {8, kCaptionIpodAudio, L"switch_ipod_audio"},
     {11, kCaptionBtAudio, L"switch_bt_audio"},
     {13, kCaptionAux1, L"switch_aux1"},
     {18, kCaptionTv, L"switch_tv"},
-    {kNone, kCaptionMore, L"switch_page_up"},
+    {ListCell::kSwitchesPages, kCaptionMore, L"switch_page_up"},
 };
 
 int CellOf(int source) {
-    const Cell* const found = std::find_if(std::begin(kCells), std::end(kCells),
-                                           [source](const Cell& cell) { return cell.source == source; });
+    const ListCell* const found =
+        std::find_if(std::begin(kCells), std::end(kCells),
+                     [source](const ListCell& cell) { return cell.value == source; });
     return found == std::end(kCells) ? kNone : static_cast<int>(found - std::begin(kCells));
 }
 
@@ -69,14 +65,7 @@ void SourcesScreen::CreateList() {
     list_.Create(60, top_ + 70, 240, 400);
     list_.SetBkgSurf(L"SwitchBkg.lqi");
     list_.SetIconNumPrePage(kCellsOfPage);
-    std::vector<std::wstring> icons;
-    std::vector<int> captions;
-    for (const Cell& cell : kCells) {
-        icons.emplace_back(cell.icon);
-        captions.push_back(cell.caption);
-    }
-    looks_.GiveTo(list_, icons);
-    list_.SetText(captions);
+    looks_.GiveTo(list_, {std::begin(kCells), std::end(kCells)});
     list_.SetFontSize(17, 17);
     // The callback gets no context.
     list_.SetCallBackClick([](int cell, bool changed) {
@@ -113,8 +102,8 @@ void SourcesScreen::ShowSource(const Source& source, const _LQSysInfo* record) {
 
 void SourcesScreen::ShowPresence(const _LQSysInfo* record) {
     std::vector<bool> dimmed;
-    for (const Cell& cell : kCells) {
-        const Source* const source = FindSource(cell.source);
+    for (const ListCell& cell : kCells) {
+        const Source* const source = FindSource(cell.value);
         dimmed.push_back(source && !source->IsPresent(record));
     }
     if (dimmed == dimmed_)
@@ -124,8 +113,8 @@ void SourcesScreen::ShowPresence(const _LQSysInfo* record) {
 }
 
 void SourcesScreen::OnClick(int cell, bool changed) {
-    const int source = kCells[cell].source;
-    if (source == kNone)
+    const int source = kCells[cell].value;
+    if (source == ListCell::kSwitchesPages)
         return;
     // A click on the selected source has taken the selection away.
     if (!changed)
