@@ -165,8 +165,8 @@ TEST(SendMessageTimeout, AnswersForAWindowOfThisProcessAndForNoneThatIsGone) {
     }
     const TestWindow window;
     DestroyWindow(window.Handle());
+    // Systems differ in what a call that fails leaves in the answer.
     EXPECT_EQ(SendMessageTimeoutW(window.Handle(), WM_APP, 1, 2, SMTO_NORMAL, 0, &answer), 0);
-    EXPECT_EQ(answer, 42u);
 }
 
 }  // namespace
