@@ -157,7 +157,11 @@ TEST_F(Lqimage, LeavesTheOldFileWhenItFails) {
 TEST_F(Lqimage, RefusesToWriteOntoTheFileThatItReads) {
     WritePicture("a.png", 0);
     ASSERT_EQ(Run("encode " + Quoted("a.png") + " " + Quoted("a.lqi")), 0) << errors_;
-    std::filesystem::create_symlink(At("a.png"), At("soft.lqi"));
+    // Not everybody may make one everywhere.
+    std::error_code noSymlink;
+    std::filesystem::create_symlink(At("a.png"), At("soft.lqi"), noSymlink);
+    if (noSymlink)
+        std::filesystem::create_hard_link(At("a.png"), At("soft.lqi"));
     std::filesystem::create_hard_link(At("a.png"), At("hard.lqi"));
     const std::vector<std::uint8_t> png = Read("a.png");
     const std::vector<std::uint8_t> lqi = Read("a.lqi");
@@ -170,7 +174,7 @@ TEST_F(Lqimage, RefusesToWriteOntoTheFileThatItReads) {
     EXPECT_EQ(Run("encode " + Quoted("soft.lqi") + " " + Quoted("a.png")), 1);
     EXPECT_EQ(Read("a.png"), png);
     EXPECT_EQ(Read("a.lqi"), lqi);
-    EXPECT_TRUE(std::filesystem::is_symlink(At("soft.lqi")));
+    EXPECT_EQ(std::filesystem::is_symlink(At("soft.lqi")), !noSymlink);
 }
 
 TEST_F(Lqimage, AnswersWrongUsageWithStatusTwo) {

@@ -175,7 +175,11 @@ TEST_F(Lqlayout, LeavesTheOldFileWhenItFails) {
 
 TEST_F(Lqlayout, RefusesToWriteOntoTheFileThatItReads) {
     ASSERT_EQ(Run("compile " + Quoted("screen.ini") + " " + Quoted("a.bin")), 0) << errors_;
-    std::filesystem::create_symlink(At("screen.ini"), At("soft.bin"));
+    // Not everybody may make one everywhere.
+    std::error_code noSymlink;
+    std::filesystem::create_symlink(At("screen.ini"), At("soft.bin"), noSymlink);
+    if (noSymlink)
+        std::filesystem::create_hard_link(At("screen.ini"), At("soft.bin"));
     for (const std::string command : {"compile", "render"}) {
         for (const std::string name : {"screen.ini", "./screen.ini", "soft.bin"}) {
             EXPECT_EQ(Run(command + " " + Quoted("screen.ini") + " " + Quoted(name)), 1) << name;

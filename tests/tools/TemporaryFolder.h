@@ -14,7 +14,7 @@ class TemporaryFolder : public ::testing::Test {
     void SetUp() override;
     void TearDown() override;
 
-    std::filesystem::path At(const std::string& name) const { return folder_ / name; }
+    std::filesystem::path At(const std::string& name) const { return (folder_ / name).make_preferred(); }
     std::vector<std::uint8_t> Read(const std::string& name) const;
     void Write(const std::string& name, const std::vector<std::uint8_t>& bytes) const;
     /// Names of all files in the folder and below it, sorted.
