@@ -265,7 +265,7 @@ TEST(HeadUnitWithoutMuch, ComesUpWithoutTheServiceAndTheMainApplication) {
 TEST(HeadUnitWithoutMuch, ComesUpWithoutLayoutsAndLanguages) {
     test::DemoScene scene;
     for (const char* const folder : {"Layout", "Language"})
-        std::filesystem::remove(scene.DeviceFolder() / "NandFlash/Application/Resource" / folder);
+        std::filesystem::remove_all(scene.DeviceFolder() / "NandFlash/Application/Resource" / folder);
     MainApplication mainApplication(MainApplication::KeyBeep::Silent);
     ASSERT_TRUE(mainApplication.Start());
     HeadUnit headUnit;

@@ -128,7 +128,7 @@ TEST_F(Lqimage, SaysTypesAndSizesOfAWholeTree) {
     WritePicture("in/night/opaque.png", 255, 2, 2);
     const std::string soft = (At("out") / "soft.lqi").string() + ": 7x3 argb8888 raw, 116 bytes\n";
     const std::string opaque =
-        (At("out") / "night/opaque.lqi").string() + ": 2x2 xrgb8888 raw, 48 bytes, opaque\n";
+        (At("out") / "night" / "opaque.lqi").string() + ": 2x2 xrgb8888 raw, 48 bytes, opaque\n";
     ASSERT_EQ(Run("encode --raw --verbose " + Quoted("in") + " " + Quoted("out")), 0) << errors_;
     EXPECT_EQ(output_, opaque + soft);
     ASSERT_EQ(Run("info " + Quoted("out")), 0) << errors_;
