@@ -12,6 +12,6 @@ function(korvane_add_test name)
   if(UNIX)
     target_link_libraries(${name} PRIVATE korvane_scratch_runtime_folder)
   endif()
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 NO_PRETTY_VALUES PROPERTIES TIMEOUT 120
     RUN_SERIAL ${arg_ALONE})
 endfunction()

@@ -47,7 +47,7 @@ bool CLQButton::SetImagePath(int element, _eImageType state, const wchar_t* file
 }
 
 bool CLQButton::AddGUIElement(CLQGUIElement* element) {
-    if (!element || GetGUIElementCount() >= kMaxElements)
+    if (!element || GetGUIElementCount() >= korvane::kMaxButtonElements)
         return false;
     const CLQBaseCtrl* father = element->GetFatherCtrl();
     if (father && father != this)
@@ -79,7 +79,7 @@ CLQTextElement* CLQButton::FindCaption() const {
 
 CLQTextElement* CLQButton::Caption() {
     CLQTextElement* caption = FindCaption();
-    if (!caption && GetGUIElementCount() < kMaxElements) {
+    if (!caption && GetGUIElementCount() < korvane::kMaxButtonElements) {
         auto added = std::make_unique<CLQTextElement>();
         caption = added.get();
         Append(std::move(added));
@@ -165,10 +165,10 @@ void CLQButton::ExchangeLayout(korvane::LayoutArchive& archive) {
     CLQBaseCtrl::ExchangeLayout(archive);
     static const std::wstring kImage = L"image";
     static const std::wstring kText = L"text";
-    int limit = kMaxElements;
+    int limit = korvane::kMaxButtonElements;
     archive.Number(L"elements", GetGUIElementCount(), [&limit](int count) {
         // The first element is always there.
-        limit = std::clamp(count, 1, kMaxElements);
+        limit = std::clamp(count, 1, korvane::kMaxButtonElements);
     });
     const int count = archive.IsLoading() ? limit : GetGUIElementCount();
     for (int i = 0; i < count; ++i) {

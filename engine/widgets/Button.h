@@ -8,6 +8,13 @@
 
 class CLQTextElement;
 
+namespace korvane {
+
+/// How many elements a button takes.
+inline constexpr int kMaxButtonElements = 32;
+
+}  // namespace korvane
+
 /// A push button: a stack of elements, drawn in their order, of which the first is a picture.
 ///
 /// It shows its disabled look while it is disabled, its pressed look while it is held, its focus look while
@@ -15,8 +22,6 @@ class CLQTextElement;
 /// press, wherever the pointer is by then. A copy has copies of the elements.
 class KORVANE_API CLQButton : public CLQBaseCtrl {
   public:
-    static constexpr int kMaxElements = 32;
-
     CLQButton();
     CLQButton(const CLQButton& other);
     CLQButton& operator=(const CLQButton& other);
@@ -39,7 +44,7 @@ class KORVANE_API CLQButton : public CLQBaseCtrl {
 
     /// Puts an element on top of the others. The button owns it from then on. False, and the element stays
     /// the caller's, when it is null, belongs to another control or already to this one, or there are
-    /// kMaxElements.
+    /// korvane::kMaxButtonElements.
     bool AddGUIElement(CLQGUIElement* element);
     /// Elements in drawing order; null outside 0 to count - 1. Element 0 is the picture that a new button
     /// has.

@@ -8,8 +8,8 @@
 #include "platform/SharedMemory.h"
 #include "platform/Simulation.h"
 
-#include "tests/support/RemoveFolder.h"
 #include "tests/support/Share.h"
+#include "tools/hostfile/HostFolder.h"
 
 namespace korvane::test {
 
@@ -55,7 +55,7 @@ Scene::~Scene() {
     RemoveSharedMemory();
     // A test without a scene may be the first one that needs a font.
     SetDeviceRoot({});
-    RemoveFolder(root_);
+    tools::RemoveHostFolder(root_);
 }
 
 void Scene::Press(int x, int y) {

@@ -6,7 +6,7 @@
 
 #include "platform/Simulation.h"
 
-#include "tests/support/RemoveFolder.h"
+#include "tools/hostfile/HostFolder.h"
 
 namespace korvane::test {
 
@@ -25,7 +25,7 @@ FontFolder::FontFolder()
 
 FontFolder::~FontFolder() {
     SetDeviceRoot("");
-    RemoveFolder(root_);
+    tools::RemoveHostFolder(root_);
 }
 
 void FontFolder::Write(const std::string& file, const std::string& bytes) const {

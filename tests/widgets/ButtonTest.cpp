@@ -204,12 +204,12 @@ TEST_F(Button, RefusesNullForeignAndRepeatedElements) {
 }
 
 TEST_F(Button, KeepsNoMoreElementsThanItsBound) {
-    while (button->GetGUIElementCount() < CLQButton::kMaxElements)
+    while (button->GetGUIElementCount() < kMaxButtonElements)
         ASSERT_TRUE(button->AddGUIElement(new CLQImageElement));
     auto last = std::make_unique<CLQImageElement>();
     EXPECT_FALSE(button->AddGUIElement(last.get()));
     button->SetText(L"no room");
-    EXPECT_EQ(button->GetGUIElementCount(), int{CLQButton::kMaxElements});
+    EXPECT_EQ(button->GetGUIElementCount(), kMaxButtonElements);
 }
 
 TEST_F(Button, GivesItsCopyElementsOfItsOwn) {

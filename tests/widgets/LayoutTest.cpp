@@ -120,7 +120,7 @@ TEST_F(Layout, KeepsAButtonWithItsElements) {
     button.AddGUIElement(fixed);
     ExpectRoundTrip(button);
 
-    while (button.GetGUIElementCount() < CLQButton::kMaxElements)
+    while (button.GetGUIElementCount() < kMaxButtonElements)
         button.AddGUIElement(new CLQTextElement);
     ExpectRoundTrip(button);
 }

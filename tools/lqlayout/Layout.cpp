@@ -99,7 +99,7 @@ std::vector<LayoutElement> Layout::ElementsOf(const LayoutCtrl& ctrl) const {
     std::vector<LayoutElement> elements;
     if (ctrl.kind != kKindButton)
         return elements;
-    const int count = std::clamp(Number(ctrl, L"elements", kNewElements), 1, CLQButton::kMaxElements);
+    const int count = std::clamp(Number(ctrl, L"elements", kNewElements), 1, kMaxButtonElements);
     for (int i = 0; i < count; ++i) {
         LayoutElement element;
         element.prefix = L"element" + std::to_wstring(i) + L".";

@@ -8,6 +8,8 @@
 #include "platform/SharedMemory.h"
 #include "platform/Simulation.h"
 
+#include "tools/hostfile/HostFolder.h"
+
 namespace korvane::demo {
 
 namespace {
@@ -60,8 +62,7 @@ ScratchDevice::~ScratchDevice() {
         return;
     RemoveSharedMemory();
     SetDeviceRoot(present_);
-    std::error_code ignored;
-    fs::remove_all(root_, ignored);
+    tools::RemoveHostFolder(root_);
 }
 
 bool ScratchDevice::Enter() {

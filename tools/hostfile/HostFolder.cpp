@@ -1,13 +1,14 @@
-#include "tests/support/RemoveFolder.h"
+#include "tools/hostfile/HostFolder.h"
 
 #include <system_error>
 #include <vector>
 
-namespace korvane::test {
+namespace korvane::tools {
 
 namespace fs = std::filesystem;
 
-void RemoveFolder(const fs::path& folder) {
+// Not std::filesystem::remove_all, which may try for ever where a file that is open stays.
+void RemoveHostFolder(const fs::path& folder) {
     std::error_code failure;
     // A folder comes before what is in it.
     std::vector<fs::path> paths = {folder};
@@ -18,4 +19,4 @@ void RemoveFolder(const fs::path& folder) {
         fs::remove(*path, failure);
 }
 
-}  // namespace korvane::test
+}  // namespace korvane::tools
