@@ -18,16 +18,17 @@ std::string LastError() {
     return std::strerror(errno);
 }
 
-/// A file beside `target` that did not exist before.
+/// A file beside `target` that did not exist before. Not every C library has a mode of fopen for that.
 File MakeBeside(const std::filesystem::path& target, std::filesystem::path& made) {
     std::random_device random;
     for (int attempt = 0; attempt < 16; ++attempt) {
         made = target;
         made += "." + std::to_string(random()) + ".part";
-        File file(std::fopen(made.string().c_str(), "wbx"));
-        if (file || errno != EEXIST)
-            return file;
+        std::error_code unknown;
+        if (!std::filesystem::exists(std::filesystem::symlink_status(made, unknown)))
+            return File(std::fopen(made.string().c_str(), "wb"));
     }
+    errno = EEXIST;
     return nullptr;
 }
 

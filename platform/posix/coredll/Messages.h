@@ -64,8 +64,7 @@ constexpr int VK_DELETE = 0x2E;
 constexpr int VK_F1 = 0x70;
 
 // Each thread has a queue of its own. A retrieval first runs the messages that other threads have sent, then
-// gives, in this order: posted messages; input; WM_PAINT; WM_TIMER; WM_QUIT. WM_QUIT waits for everything
-// that was there when it was asked for, so a timer that falls due again and again cannot hold it back.
+// gives, in this order: posted messages; WM_QUIT, if it was asked for; input; WM_PAINT; WM_TIMER.
 //
 // Filters: `window` null takes everything of the thread, (HWND)-1 only what was posted to no window, any
 // other value that window and its children. `first` and `last` both 0 take every number, else first <= number
@@ -87,7 +86,8 @@ KORVANE_API BOOL TranslateMessage(const MSG* message);
 /// Calls the window's procedure, or the TIMERPROC of a WM_TIMER whose timer still exists.
 KORVANE_API LRESULT DispatchMessageW(const MSG* message);
 
-/// Makes WM_QUIT appear in this thread's queue, with `exitCode` as wParam, once nothing else waits.
+/// Makes WM_QUIT appear in this thread's queue, with `exitCode` as wParam, once no posted
+/// message waits.
 KORVANE_API void PostQuitMessage(int exitCode);
 
 /// Appends to the queue of the window's thread and returns. A null window posts to the calling thread's own

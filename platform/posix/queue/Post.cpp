@@ -87,14 +87,8 @@ BOOL PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
 
 void PostQuitMessage(int exitCode) {
     ThreadQueue& queue = CurrentQueue();
-    Session& session = TheSession();
-    const std::lock_guard<std::mutex> lock(session.mutex);
+    const std::lock_guard<std::mutex> lock(TheSession().mutex);
     queue.quitAsked = true;
     queue.exitCode = exitCode;
-    queue.quitMoment = CurrentMoment();
-    for (const auto& [handle, window] : session.windows) {
-        if (window->queue == &queue)
-            window->paintsBeforeQuit = !window->update.IsEmpty();
-    }
 }
 }

@@ -1,33 +1,19 @@
-#include <limits>
-
 #include "platform/posix/LastError.h"
 #include "platform/posix/queue/Send.h"
 #include "platform/posix/queue/Waiting.h"
 #include "platform/posix/remote/receive/Station.h"
+#include "platform/queue/MessageFilter.h"
 
 namespace korvane {
 namespace {
 
-const HWND kNoWindow = reinterpret_cast<HWND>(static_cast<INT_PTR>(-1));
-
-struct Filter {
-    HWND window;
-    UINT first;
-    UINT last;
-
-    bool AcceptsNumber(UINT message) const { return message >= first && message <= last; }
+struct Filter : MessageFilter {
     bool AcceptsWindow(Session& session, HWND target) const {
         if (!window || window == target)
             return true;
         return window == kNoWindow ? !target : IsSameOrChild(session, target, window);
     }
 };
-
-Filter MakeFilter(HWND window, UINT first, UINT last) {
-    if (first == 0 && last == 0)
-        last = std::numeric_limits<UINT>::max();
-    return {window, first, last};
-}
 
 bool TakeFrom(MessageRing& messages, Session& session, const Filter& filter, bool remove, MSG& message) {
     for (std::size_t i = 0; i < messages.Size(); ++i) {
@@ -46,18 +32,14 @@ MSG Generated(const Session& session, HWND window, UINT message, WPARAM wParam, 
     return {window, message, wParam, lParam, GetTickCount(), session.pointer};
 }
 
-bool TakePaint(Session& session, ThreadQueue& queue, const Filter& filter, bool remove, MSG& message) {
+bool TakePaint(Session& session, const ThreadQueue& queue, const Filter& filter, MSG& message) {
     if (!filter.AcceptsNumber(WM_PAINT))
         return false;
     for (const auto& [handle, window] : session.windows) {
         if (window->queue != &queue || window->update.IsEmpty())
             continue;
-        if (queue.quitAsked && !window->paintsBeforeQuit)
-            continue;
         if (!filter.AcceptsWindow(session, window->handle) || !IsShownWithParents(session, *window))
             continue;
-        if (remove)
-            window->paintsBeforeQuit = false;
         message = Generated(session, window->handle, WM_PAINT, 0, 0);
         return true;
     }
@@ -68,9 +50,8 @@ bool TakeTimer(Session& session, ThreadQueue& queue, const Filter& filter, bool 
     if (!filter.AcceptsNumber(WM_TIMER))
         return false;
     const Moment now = CurrentMoment();
-    Timer* timer = queue.timers.Due(queue.quitAsked ? queue.quitMoment : now, [&](const Timer& candidate) {
-        return filter.AcceptsWindow(session, candidate.window);
-    });
+    Timer* timer = queue.timers.Due(
+        now, [&](const Timer& candidate) { return filter.AcceptsWindow(session, candidate.window); });
     if (!timer)
         return false;
     message = Generated(session, timer->window, WM_TIMER, timer->id,
@@ -91,9 +72,9 @@ bool TakeQuit(const Session& session, ThreadQueue& queue, bool remove, MSG& mess
 
 bool Take(Session& session, ThreadQueue& queue, const Filter& filter, bool remove, MSG& message) {
     return TakeFrom(queue.posted, session, filter, remove, message) ||
+           TakeQuit(session, queue, remove, message) ||
            TakeFrom(queue.input, session, filter, remove, message) ||
-           TakePaint(session, queue, filter, remove, message) ||
-           TakeTimer(session, queue, filter, remove, message) || TakeQuit(session, queue, remove, message);
+           TakePaint(session, queue, filter, message) || TakeTimer(session, queue, filter, remove, message);
 }
 
 bool IsValid(Session& session, const ThreadQueue& queue, const Filter& filter) {
@@ -118,7 +99,7 @@ BOOL GetMessageW(MSG* message, HWND window, UINT first, UINT last) {
     }
     ThreadQueue& queue = CurrentQueue();
     Session& session = TheSession();
-    const Filter filter = MakeFilter(window, first, last);
+    const Filter filter{{window, first, last}};
     for (;;) {
         TakeInRemoteMessages();
         AnswerSentMessages(queue);
@@ -142,7 +123,7 @@ BOOL PeekMessageW(MSG* message, HWND window, UINT first, UINT last, UINT remove)
         return Fail(ERROR_INVALID_PARAMETER);
     ThreadQueue& queue = CurrentQueue();
     Session& session = TheSession();
-    const Filter filter = MakeFilter(window, first, last);
+    const Filter filter{{window, first, last}};
     TakeInRemoteMessages();
     AnswerSentMessages(queue);
     PumpDisplay(session, queue);

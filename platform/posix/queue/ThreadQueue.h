@@ -34,7 +34,6 @@ struct ThreadQueue {
 
     bool quitAsked = false;
     int exitCode = 0;
-    Moment quitMoment = 0;
 
     std::condition_variable changed;
     // What the thread waits for together with a socket: an event counter, made when first needed, that is

@@ -32,7 +32,6 @@ struct Window {
     LONG width = 0;
     LONG height = 0;
     UpdateRect update;
-    bool paintsBeforeQuit = false;  // its paint was due when WM_QUIT was asked for
 };
 
 }  // namespace korvane

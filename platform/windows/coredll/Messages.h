@@ -4,8 +4,8 @@
 #include "platform/windows/System.h"
 
 // While the system's clock is in use each of these is the system's own. Under the manual clock a retrieval
-// gives, in this order: what was sent; posted messages; input; WM_PAINT; WM_TIMER; WM_QUIT. Message times and
-// timers follow that clock.
+// gives, in this order: what was sent; posted messages; WM_QUIT, if it was asked for; input; WM_PAINT; WM_TIMER.
+// Message times and timers follow that clock.
 
 namespace korvane::desktop {
 
@@ -14,7 +14,6 @@ KORVANE_API BOOL GetMessageW(MSG* message, HWND window, UINT first, UINT last);
 KORVANE_API BOOL PeekMessageW(MSG* message, HWND window, UINT first, UINT last, UINT remove);
 KORVANE_API LRESULT DispatchMessageW(const MSG* message);
 KORVANE_API BOOL PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-KORVANE_API void PostQuitMessage(int exitCode);
 
 KORVANE_API UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT periodMs, TIMERPROC procedure);
 KORVANE_API BOOL KillTimer(HWND window, UINT_PTR id);
@@ -29,7 +28,6 @@ KORVANE_API BOOL MessageBeep(UINT kind);
 #define PeekMessageW korvane::desktop::PeekMessageW
 #define DispatchMessageW korvane::desktop::DispatchMessageW
 #define PostMessageW korvane::desktop::PostMessageW
-#define PostQuitMessage korvane::desktop::PostQuitMessage
 #define KillTimer korvane::desktop::KillTimer
 #define MessageBeep korvane::desktop::MessageBeep
 // Classes have functions of this name, too, which take one argument.

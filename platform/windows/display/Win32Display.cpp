@@ -62,6 +62,8 @@ void Win32Display::ShowFramed(const wchar_t* title) {
     SetClassLongPtrW(owner_, GCLP_HCURSOR, reinterpret_cast<LONG_PTR>(LoadCursorW(nullptr, IDC_ARROW)));
     SetWindowTextW(owner_, title ? title : L"");
     SetWindowLongPtrW(owner_, GWL_STYLE, static_cast<LONG_PTR>(kStyle));
+    // What has hidden it for a display without a panel goes.
+    SetWindowLongPtrW(owner_, GWL_EXSTYLE, 0);
     RECT frame{0, 0, width_, height_};
     AdjustWindowRectEx(&frame, kStyle, FALSE, 0);
     const int width = frame.right - frame.left;
@@ -72,6 +74,20 @@ void Win32Display::ShowFramed(const wchar_t* title) {
     const int top = std::max<int>(room.top, (room.top + room.bottom - height) / 2);
     SetWindowPos(owner_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_FRAMECHANGED);
     ShowWindow(owner_, SW_SHOWNORMAL);
+    KeepClientSize();
+}
+
+void Win32Display::KeepClientSize() {
+    RECT whole{};
+    RECT client{};
+    GetWindowRect(owner_, &whole);
+    GetClientRect(owner_, &client);
+    // A minimised window has no client area.
+    if (IsIconic(owner_) || (client.right == width_ && client.bottom == height_))
+        return;
+    SetWindowPos(owner_, nullptr, 0, 0, whole.right - whole.left + width_ - client.right,
+                 whole.bottom - whole.top + height_ - client.bottom,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void Win32Display::Blacken() {
@@ -88,9 +104,9 @@ void Win32Display::Close() {
     // Another one may have put its own procedure in front of this; it goes on to the default one then.
     if (reinterpret_cast<WNDPROC>(GetWindowLongPtrW(owner_, GWLP_WNDPROC)) == &Procedure)
         SetWindowLongPtrW(owner_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ownersProcedure_));
-    if (pressed_)
-        ReleaseCapture();
     pressed_ = false;
+    if (GetCapture() == owner_)
+        ReleaseCapture();
     owner_ = nullptr;
 }
 
@@ -151,31 +167,43 @@ LRESULT CALLBACK Win32Display::Procedure(HWND window, UINT message, WPARAM wPara
     }
     // The procedure may close the display.
     const WNDPROC owners = display->ownersProcedure_;
-    return display->Precede(message, lParam) ? CallWindowProcW(owners, window, message, wParam, lParam) : 0;
+    return display->Precede(message, wParam, lParam) ? CallWindowProcW(owners, window, message, wParam, lParam) : 0;
 }
 
-bool Win32Display::Precede(UINT message, LPARAM& lParam) {
+bool Win32Display::Precede(UINT message, WPARAM wParam, LPARAM& lParam) {
     switch (message) {
         case WM_LBUTTONDOWN:
             pressed_ = true;
-            SetCapture(owner_);
+            // The system holds on to a finger by itself, and a program's press has nothing to hold on to.
+            if (GetKeyState(VK_LBUTTON) < 0)
+                SetCapture(owner_);
             lParam = lastPoint_ = OnScreen(lParam);
             return true;
         case WM_MOUSEMOVE:
-            lParam = lastPoint_ = OnScreen(lParam);
-            // A touch panel reports nothing of a finger above it.
-            return pressed_;
+            lParam = OnScreen(lParam);
+            // A touch panel reports nothing of a finger above it, nor a mouse beside the finger on it.
+            if (!pressed_ || (wParam & MK_LBUTTON) == 0)
+                return false;
+            lastPoint_ = lParam;
+            return true;
         case WM_LBUTTONUP:
             if (!pressed_)
                 return false;
             pressed_ = false;
-            ReleaseCapture();
+            if (GetCapture() == owner_)
+                ReleaseCapture();
             lParam = OnScreen(lParam);
             return true;
         case WM_CAPTURECHANGED:
-            // Something else takes the pointer away in the middle of a touch.
-            if (pressed_ && reinterpret_cast<HWND>(lParam) != owner_)
-                PostMessageW(owner_, WM_LBUTTONUP, 0, lastPoint_);
+            // Something else takes the mouse away in the middle of a touch.
+            if (reinterpret_cast<HWND>(lParam) != owner_)
+                PostRelease();
+            return true;
+        case WM_POINTERCAPTURECHANGED:
+            PostRelease();
+            return true;
+        case WM_DPICHANGED:
+            KeepClientSize();
             return true;
         case WM_PAINT:
             // Paints the frame, which the owner's procedure does not know of.
@@ -184,6 +212,11 @@ bool Win32Display::Precede(UINT message, LPARAM& lParam) {
         default:
             return true;
     }
+}
+
+void Win32Display::PostRelease() {
+    if (pressed_)
+        PostMessageW(owner_, WM_LBUTTONUP, 0, lastPoint_);
 }
 
 LPARAM Win32Display::OnScreen(LPARAM point) const {

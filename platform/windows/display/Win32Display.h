@@ -24,7 +24,11 @@ class Win32Display : public Display {
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
     /// What the window does before the owner's procedure. False for a message that this must not see.
-    bool Precede(UINT message, LPARAM& lParam);
+    bool Precede(UINT message, WPARAM wParam, LPARAM& lParam);
+    /// Puts the end of a touch that the window is not told of behind what waits.
+    void PostRelease();
+    /// Whatever the frame's thickness is on the monitor where it lies.
+    void KeepClientSize();
     /// Of a place off the screen, the pixel next to it.
     LPARAM OnScreen(LPARAM point) const;
     void ShowFramed(const wchar_t* title);
@@ -36,7 +40,7 @@ class Win32Display : public Display {
     HANDLE woken_ = nullptr;
     int width_ = 0;
     int height_ = 0;
-    bool pressed_ = false;
+    bool pressed_ = false;  // by the mouse, a finger, or a program in their place
     LPARAM lastPoint_ = 0;  // of the touch
 };
 

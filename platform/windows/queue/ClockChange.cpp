@@ -14,9 +14,6 @@ void GiveToSystem(ThreadQueue& queue) {
     }
     queue.input = MessageRing();
     queue.stamps = MessageRing();
-    if (queue.quitAsked)
-        PostQuitMessage(queue.exitCode);
-    queue.quitAsked = false;
 }
 
 }  // namespace

@@ -1,9 +1,12 @@
+#include "platform/windows/LastError.h"
 #include "platform/windows/queue/ThreadQueue.h"
 
 namespace korvane::desktop {
 
 LRESULT DispatchMessageW(const MSG* message) {
-    if (!message || message->message != WM_TIMER || message->lParam == 0)
+    if (!message)
+        return Refuse(ERROR_INVALID_PARAMETER);
+    if (message->message != WM_TIMER || message->lParam == 0)
         return ::DispatchMessageW(message);
     ThreadQueue& queue = CurrentQueue();
     const Timer* timer = queue.timers.Find(message->hwnd, message->wParam);

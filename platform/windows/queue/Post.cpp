@@ -1,14 +1,10 @@
 #include "platform/Simulation.h"
 #include "platform/queue/PointerMessage.h"
+#include "platform/windows/LastError.h"
 #include "platform/windows/queue/ThreadQueue.h"
 
 namespace korvane {
 namespace {
-
-bool Refuse(DWORD error) {
-    SetLastError(error);
-    return false;
-}
 
 // The thread of a window of this process, else 0.
 DWORD OwnThreadOf(HWND window) {

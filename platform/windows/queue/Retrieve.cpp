@@ -1,4 +1,5 @@
 #include "platform/Simulation.h"
+#include "platform/windows/LastError.h"
 #include "platform/windows/display/ActiveDisplay.h"
 #include "platform/windows/display/Touch.h"
 #include "platform/windows/queue/Filter.h"
@@ -12,6 +13,7 @@ namespace {
 constexpr UINT kSentAndPosted = (QS_SENDMESSAGE | QS_POSTMESSAGE | QS_HOTKEY) << 16;
 constexpr UINT kInput = QS_INPUT << 16;
 constexpr UINT kPaint = QS_PAINT << 16;
+constexpr UINT kEverything = 0;
 
 bool Peek(MSG& message, const Filter& filter, UINT part, bool remove) {
     return PeekMessageW(&message, filter.window, filter.first, filter.last,
@@ -42,27 +44,19 @@ void Stamp(ThreadQueue& queue, MSG& message, bool remove) {
     StampAsNew(message);
 }
 
-// The system gives quit as soon as nothing is posted. It waits here instead until nothing else waits either.
-bool IsAskedQuit(const MSG& message) {
-    return message.message == WM_QUIT && !message.hwnd;
-}
-
-void TakeOverQuit(bool isRemoved, const MSG& quit) {
-    MSG removed;
-    if (!isRemoved)
-        Peek(removed, {kNoWindow, WM_QUIT, WM_QUIT}, kSentAndPosted, true);
-    desktop::PostQuitMessage(static_cast<int>(quit.wParam));
-}
-
 bool TakePosted(ThreadQueue& queue, const Filter& filter, bool remove, MSG& message) {
-    while (Peek(message, filter, kSentAndPosted, remove)) {
-        if (!IsAskedQuit(message)) {
-            Stamp(queue, message, remove);
-            return true;
-        }
-        TakeOverQuit(remove, message);
-    }
-    return false;
+    if (!Peek(message, filter, kSentAndPosted, remove))
+        return false;
+    Stamp(queue, message, remove);
+    return true;
+}
+
+// The system does not say which part of its queue a request to quit belongs to.
+bool TakeQuit(bool remove, MSG& message) {
+    if (!Peek(message, {{kNoWindow, WM_QUIT, WM_QUIT}}, kEverything, remove))
+        return false;
+    StampAsNew(message);
+    return true;
 }
 
 bool TakeInput(ThreadQueue& queue, const Filter& filter, bool remove, MSG& message) {
@@ -92,34 +86,18 @@ bool TakeInput(ThreadQueue& queue, const Filter& filter, bool remove, MSG& messa
     return true;
 }
 
-bool TakePaintBeforeQuit(ThreadQueue& queue, const Filter& filter, bool remove, MSG& message) {
-    std::vector<HWND>& windows = queue.paintsBeforeQuit;
-    for (auto window = windows.begin(); window != windows.end(); ++window) {
-        if (!filter.AcceptsWindow(*window) || !GetUpdateRect(*window, nullptr, FALSE) ||
-            !Peek(message, {*window, WM_PAINT, WM_PAINT}, kPaint, remove))
-            continue;
-        if (remove)
-            windows.erase(window);
-        return true;
-    }
-    return false;
-}
-
-bool TakePaint(ThreadQueue& queue, const Filter& filter, bool remove, MSG& message) {
-    if (!filter.AcceptsNumber(WM_PAINT))
+bool TakePaint(const Filter& filter, bool remove, MSG& message) {
+    if (!filter.AcceptsNumber(WM_PAINT) || !Peek(message, filter, kPaint, remove))
         return false;
-    const bool taken = queue.quitAsked ? TakePaintBeforeQuit(queue, filter, remove, message)
-                                       : Peek(message, filter, kPaint, remove);
-    if (taken)
-        StampAsNew(message);
-    return taken;
+    StampAsNew(message);
+    return true;
 }
 
 bool TakeTimer(ThreadQueue& queue, const Filter& filter, bool remove, MSG& message) {
     if (!filter.AcceptsNumber(WM_TIMER))
         return false;
     const Moment now = CurrentMoment();
-    Timer* timer = queue.timers.Due(queue.quitAsked ? queue.quitMoment : now, [&](const Timer& candidate) {
+    Timer* timer = queue.timers.Due(now, [&](const Timer& candidate) {
         return (!candidate.window || IsWindow(candidate.window)) && filter.AcceptsWindow(candidate.window);
     });
     if (!timer)
@@ -131,20 +109,10 @@ bool TakeTimer(ThreadQueue& queue, const Filter& filter, bool remove, MSG& messa
     return true;
 }
 
-bool TakeQuit(ThreadQueue& queue, bool remove, MSG& message) {
-    if (!queue.quitAsked)
-        return false;
-    message = {nullptr, WM_QUIT, static_cast<WPARAM>(queue.exitCode), 0, 0, {}};
-    StampAsNew(message);
-    if (remove)
-        queue.quitAsked = false;
-    return true;
-}
-
 bool Take(ThreadQueue& queue, const Filter& filter, bool remove, MSG& message) {
-    return TakePosted(queue, filter, remove, message) || TakeInput(queue, filter, remove, message) ||
-           TakePaint(queue, filter, remove, message) || TakeTimer(queue, filter, remove, message) ||
-           TakeQuit(queue, remove, message);
+    return TakePosted(queue, filter, remove, message) || TakeQuit(remove, message) ||
+           TakeInput(queue, filter, remove, message) || TakePaint(filter, remove, message) ||
+           TakeTimer(queue, filter, remove, message);
 }
 
 // What the program sees of a message that the system gave under its own clock.
@@ -165,9 +133,13 @@ namespace desktop {
 
 BOOL GetMessageW(MSG* message, HWND window, UINT first, UINT last) {
     constexpr BOOL kInvalid = -1;
+    if (!message) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return kInvalid;
+    }
     ThreadQueue& queue = CurrentQueue();
-    const Filter filter{window, first, last};
-    if (!queue.followsManualClock || !message || !filter.IsValid()) {
+    const Filter filter{{window, first, last}};
+    if (!queue.followsManualClock || !filter.IsValid()) {
         const BOOL result = ::GetMessageW(message, window, first, last);
         if (result != kInvalid)
             Adapt(queue, *message, true);
@@ -185,10 +157,12 @@ BOOL GetMessageW(MSG* message, HWND window, UINT first, UINT last) {
 }
 
 BOOL PeekMessageW(MSG* message, HWND window, UINT first, UINT last, UINT remove) {
+    if (!message)
+        return Refuse(ERROR_INVALID_PARAMETER);
     ThreadQueue& queue = CurrentQueue();
-    const Filter filter{window, first, last};
+    const Filter filter{{window, first, last}};
     const bool removes = (remove & PM_REMOVE) != 0;
-    if (queue.followsManualClock && message && filter.IsValid())
+    if (queue.followsManualClock && filter.IsValid())
         return Take(queue, filter, removes, *message);
     const BOOL found = ::PeekMessageW(message, window, first, last, remove);
     if (found)

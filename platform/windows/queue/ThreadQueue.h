@@ -34,11 +34,6 @@ struct ThreadQueue {
     TimerList timers;
     std::vector<ThreadTimer> threadTimers;
 
-    bool quitAsked = false;
-    int exitCode = 0;
-    Moment quitMoment = 0;
-    std::vector<HWND> paintsBeforeQuit;  // windows that were invalid when quit was asked for
-
     std::shared_ptr<std::function<bool()>> idleHandler;
     bool idling = false;
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "platform/Simulation.h"
+#include "platform/windows/LastError.h"
 #include "platform/windows/queue/SystemTimers.h"
 
 namespace korvane {
@@ -30,17 +31,13 @@ bool NextTimerDue(unsigned& msFromNow) {
 namespace desktop {
 
 UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT periodMs, TIMERPROC procedure) {
-    if (window && !IsOwnWindow(window)) {
-        SetLastError(ERROR_INVALID_WINDOW_HANDLE);
-        return 0;
-    }
+    if (window && !IsOwnWindow(window))
+        return Refuse(ERROR_INVALID_WINDOW_HANDLE);
     ThreadQueue& queue = CurrentQueue();
     ForgetDeadWindows(queue);
     const UINT_PTR started = queue.timers.Set(window, id, periodMs, procedure, CurrentMoment());
-    if (started == 0) {
-        SetLastError(ERROR_NO_SYSTEM_RESOURCES);
-        return 0;
-    }
+    if (started == 0)
+        return Refuse(ERROR_NO_SYSTEM_RESOURCES);
     const UINT_PTR number = window ? id : started;
     const Timer* timer = queue.timers.Find(window, number);
     if (queue.followsManualClock || StartInSystem(queue, *timer))
@@ -52,10 +49,8 @@ UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT periodMs, TIMERPROC procedure) 
 BOOL KillTimer(HWND window, UINT_PTR id) {
     ThreadQueue& queue = CurrentQueue();
     ForgetDeadWindows(queue);
-    if (!queue.timers.Kill(window, id)) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
-    }
+    if (!queue.timers.Kill(window, id))
+        return Refuse(ERROR_INVALID_PARAMETER);
     return queue.followsManualClock || EndInSystem(queue, window, id);
 }
 
