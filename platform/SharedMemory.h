@@ -8,9 +8,8 @@
 namespace korvane {
 
 /// Memory that all processes of one user and device root share. Regions outlive their processes and end with
-/// the system, on Windows with the last process that has mapped them. Names have 1 to 64 ASCII letters,
-/// digits,
-/// '-' and '_'.
+/// the system, on Windows with the last process that has mapped them. Names have 1 to 64 characters: ASCII
+/// letters, digits, '-' and '_'.
 
 /// The bytes of a region of at least `size` bytes (1 to 16 MiB), aligned to 64, at the same address for as
 /// long as the process lives, whoever asks again. All of its memory is reserved: a full memory fails here and

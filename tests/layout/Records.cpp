@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <type_traits>
 
 #include "KorvaneEx.h"
@@ -37,9 +38,17 @@ static_assert(korvane::kEventPressed == 513 && korvane::kEventReleased == 514 &&
               korvane::kEventItemChosen == 29953);
 static_assert(eSurface_ARGB8888 == 3 && eSurface_ARGB4444 == 5 && eError_None == 1);
 static_assert(sizeof(_eSurfaceType) == 4 && sizeof(eBorderDirection) == 4);
+static_assert(sizeof(_eErrorInfo) == 4 && sizeof(_eImageType) == 4 && sizeof(_eGUIElementType) == 4 &&
+              sizeof(eScrollType) == 4);
 static_assert(eBorder_FocusLeft == 0 && eBorder_FocusTop == 1 && eBorder_FocusRight == 2 &&
               eBorder_FocusBottom == 3 && eBorder_Left == 4 && eBorder_Top == 5 && eBorder_Right == 6 &&
               eBorder_Bottom == 7);
+
+// The bounds of a tuner, which controls take by value.
+static_assert(offsetof(_FreqStruct_, minimum) == 0 && offsetof(_FreqStruct_, maximum) == 4 &&
+              offsetof(_FreqStruct_, scale) == 8 && offsetof(_FreqStruct_, decimal) == 12 &&
+              offsetof(_FreqStruct_, freqID) == 16);
+static_assert(sizeof(_FreqStruct_) == 16 + sizeof(std::wstring));
 
 // The record that all processes of the head unit map.
 static_assert(sizeof(_LQSysInfo) == 33 && alignof(_LQSysInfo) == 1);

@@ -84,13 +84,5 @@ TEST(InputQueue, RefusesADeadWindowAndAFullQueue) {
     EXPECT_TRUE(PostMessageW(window.Handle(), WM_APP, 0, 0));
 }
 
-TEST(InputQueue, HoldsQuitBack) {
-    const StoppedClock clock;
-    const TestWindow window;
-    PostQuitMessage(0);
-    PostInput(window.Handle(), WM_LBUTTONUP, 0, 0);
-    EXPECT_EQ(DrainQueue(), (std::vector<UINT>{WM_LBUTTONUP, WM_QUIT}));
-}
-
 }  // namespace
 }  // namespace korvane

@@ -163,39 +163,6 @@ TEST(MessageQueue, RefusesToPostWhatPointsIntoTheSendersMemory) {
     EXPECT_FALSE(PostMessageW(window.Handle(), WM_GETTEXT, 10, 0));
 }
 
-TEST(MessageQueue, GivesQuitAfterEverythingThatWaits) {
-    const TestWindow window;
-    PostQuitMessage(5);
-    PostMessageW(window.Handle(), WM_APP, 0, 0);
-    MSG message{};
-    EXPECT_EQ(GetMessageW(&message, nullptr, 0, 0), TRUE);
-    EXPECT_EQ(message.message, WM_APP);
-    EXPECT_EQ(GetMessageW(&message, nullptr, 0, 0), FALSE);
-    EXPECT_EQ(message.message, WM_QUIT);
-    EXPECT_EQ(message.wParam, 5u);
-    EXPECT_FALSE(Take(message));
-}
-
-TEST(MessageQueue, LetsQuitThroughEveryFilter) {
-    const TestWindow window;
-    MSG message{};
-    PostQuitMessage(1);
-    EXPECT_EQ(GetMessageW(&message, window.Handle(), WM_KEYFIRST, WM_KEYFIRST), FALSE);
-    PostQuitMessage(2);
-    ASSERT_TRUE(PeekMessageW(&message, window.Handle(), WM_KEYFIRST, WM_KEYFIRST, PM_NOREMOVE));
-    ASSERT_TRUE(Take(message, window.Handle(), WM_KEYFIRST, WM_KEYFIRST));
-    EXPECT_EQ(message.message, WM_QUIT);
-    EXPECT_EQ(message.wParam, 2u);
-}
-
-TEST(MessageQueue, TreatsAPostedQuitAsTheEndOfALoop) {
-    const TestWindow window;
-    PostMessageW(window.Handle(), WM_QUIT, 3, 0);
-    MSG message{};
-    EXPECT_EQ(GetMessageW(&message, nullptr, 0, 0), FALSE);
-    EXPECT_EQ(message.wParam, 3u);
-}
-
 TEST(MessageQueue, TypesTheCharacterOfAKey) {
     TestWindow window;
     const MSG key{window.Handle(), WM_KEYDOWN, VK_RETURN, 1, 0, {}};
@@ -222,6 +189,15 @@ TEST(MessageQueue, DispatchesToTheWindowAndReturnsItsAnswer) {
 TEST(MessageQueue, IgnoresAMessageOfNoWindowWhenDispatching) {
     const MSG message{nullptr, WM_APP, 0, 0, 0, {}};
     EXPECT_EQ(DispatchMessageW(&message), 0);
+}
+
+TEST(MessageQueue, RefusesToFillOrToDispatchNoMessage) {
+    const TestWindow window;
+    PostMessageW(window.Handle(), WM_APP, 0, 0);
+    EXPECT_EQ(GetMessageW(nullptr, nullptr, 0, 0), -1);
+    EXPECT_FALSE(PeekMessageW(nullptr, nullptr, 0, 0, PM_REMOVE));
+    EXPECT_EQ(DispatchMessageW(nullptr), 0);
+    EXPECT_EQ(DrainQueue(), std::vector<UINT>{WM_APP});
 }
 
 TEST(MessageQueue, LetsAProcedurePumpMessages) {

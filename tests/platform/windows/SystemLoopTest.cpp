@@ -25,18 +25,6 @@ TEST(SystemLoop, CallsTheTimersOfNoWindow) {
     EXPECT_TRUE(desktop::KillTimer(nullptr, id));
 }
 
-TEST(SystemLoop, LeavesItsRequestToQuitToOurs) {
-    const StoppedClock clock;
-    PostQuitMessage(7);
-    desktop::PostMessageW(nullptr, WM_APP, 0, 0);
-    MSG message{};
-    ASSERT_EQ(desktop::GetMessageW(&message, nullptr, 0, 0), TRUE);
-    EXPECT_EQ(message.message, WM_APP);
-    ASSERT_EQ(desktop::GetMessageW(&message, nullptr, 0, 0), FALSE);
-    EXPECT_EQ(message.wParam, 7u);
-    EXPECT_FALSE(desktop::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE));
-}
-
 TEST(SystemLoop, GivesOursWhatItPostedWithTheTimeOfTheClock) {
     const StoppedClock clock(1234);
     PostThreadMessageW(GetCurrentThreadId(), WM_APP, 5, 0);
