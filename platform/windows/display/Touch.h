@@ -9,4 +9,7 @@ namespace korvane {
 /// to tell. Of several fingers the first counts.
 void TranslateTouch(MSG& message);
 
+/// Whether a pointer message is about the finger or pen whose press was translated last.
+bool IsTheTouch(WPARAM wParam);
+
 }  // namespace korvane

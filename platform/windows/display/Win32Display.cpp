@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/windows/display/ActiveDisplay.h"
+#include "platform/windows/display/Touch.h"
 
 namespace korvane {
 namespace {
@@ -72,12 +73,14 @@ void Win32Display::ShowFramed(const wchar_t* title) {
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &room, 0);
     const int left = std::max<int>(room.left, (room.left + room.right - width) / 2);
     const int top = std::max<int>(room.top, (room.top + room.bottom - height) / 2);
-    SetWindowPos(owner_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_FRAMECHANGED);
+    SetWindowPos(owner_, HWND_TOP, left, top, width, height, SWP_FRAMECHANGED);
     ShowWindow(owner_, SW_SHOWNORMAL);
     KeepClientSize();
 }
 
 void Win32Display::KeepClientSize() {
+    constexpr UINT kInPlace = SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE;
+    SetWindowPos(owner_, nullptr, 0, 0, 0, 0, kInPlace | SWP_NOSIZE | SWP_FRAMECHANGED);
     RECT whole{};
     RECT client{};
     GetWindowRect(owner_, &whole);
@@ -86,8 +89,7 @@ void Win32Display::KeepClientSize() {
     if (IsIconic(owner_) || (client.right == width_ && client.bottom == height_))
         return;
     SetWindowPos(owner_, nullptr, 0, 0, whole.right - whole.left + width_ - client.right,
-                 whole.bottom - whole.top + height_ - client.bottom,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+                 whole.bottom - whole.top + height_ - client.bottom, kInPlace);
 }
 
 void Win32Display::Blacken() {
@@ -167,7 +169,9 @@ LRESULT CALLBACK Win32Display::Procedure(HWND window, UINT message, WPARAM wPara
     }
     // The procedure may close the display.
     const WNDPROC owners = display->ownersProcedure_;
-    return display->Precede(message, wParam, lParam) ? CallWindowProcW(owners, window, message, wParam, lParam) : 0;
+    return display->Precede(message, wParam, lParam)
+               ? CallWindowProcW(owners, window, message, wParam, lParam)
+               : 0;
 }
 
 bool Win32Display::Precede(UINT message, WPARAM wParam, LPARAM& lParam) {
@@ -200,11 +204,13 @@ bool Win32Display::Precede(UINT message, WPARAM wParam, LPARAM& lParam) {
                 PostRelease();
             return true;
         case WM_POINTERCAPTURECHANGED:
-            PostRelease();
+            // Nor need the system tell how a finger's touch ends.
+            if (IsTheTouch(wParam))
+                PostRelease();
             return true;
         case WM_DPICHANGED:
             KeepClientSize();
-            return true;
+            return false;
         case WM_PAINT:
             // Paints the frame, which the owner's procedure does not know of.
             GetUpdateRect(owner_, nullptr, TRUE);

@@ -27,7 +27,7 @@ class Win32Display : public Display {
     bool Precede(UINT message, WPARAM wParam, LPARAM& lParam);
     /// Puts the end of a touch that the window is not told of behind what waits.
     void PostRelease();
-    /// Whatever the frame's thickness is on the monitor where it lies.
+    /// Fits the frame, whose thickness is the monitor's, around the screen.
     void KeepClientSize();
     /// Of a place off the screen, the pixel next to it.
     LPARAM OnScreen(LPARAM point) const;

@@ -177,6 +177,38 @@ TEST_F(Win32DisplayTest, MakesTheFirstFingerATouch) {
     EXPECT_EQ(Input(), (Lines{"513 40 24", "512 20 12", "514 21 13"}));
 }
 
+TEST_F(Win32DisplayTest, KeepsTheMouseOutOfAFingersTouch) {
+    constexpr WORD kFirst = POINTER_MESSAGE_FLAG_PRIMARY | POINTER_MESSAGE_FLAG_INCONTACT;
+    Finger(WM_POINTERDOWN, kFirst, 40, 24);
+    DrainQueue();
+    EXPECT_EQ(GetCapture(), nullptr);
+    MovePointer(30, 30);
+    MovePointer(31, 31);
+    Finger(WM_POINTERUP, POINTER_MESSAGE_FLAG_PRIMARY, 41, 25);
+    EXPECT_EQ(Input(), (Lines{"513 40 24", "514 41 25"}));
+}
+
+TEST_F(Win32DisplayTest, KeepsTheMouseOutOfAProgramsTouch) {
+    PostInput(owner_.Handle(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(40, 24));
+    DrainQueue();
+    MovePointer(30, 30);
+    PostInput(owner_.Handle(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(50, 34));
+    DrainQueue();
+    MovePointer(31, 31);
+    PostInput(owner_.Handle(), WM_LBUTTONUP, 0, MAKELPARAM(51, 35));
+    EXPECT_EQ(Input(), (Lines{"513 40 24", "512 50 34", "514 51 35"}));
+}
+
+TEST_F(Win32DisplayTest, EndsTheTouchOfAFingerThatTheSystemTakesAway) {
+    constexpr WORD kFirst = POINTER_MESSAGE_FLAG_PRIMARY | POINTER_MESSAGE_FLAG_INCONTACT;
+    Finger(WM_POINTERDOWN, kFirst, 40, 24);
+    Finger(WM_POINTERUPDATE, kFirst, 42, 26);
+    PostMessageW(owner_.Handle(), WM_POINTERCAPTURECHANGED, MAKEWPARAM(2, 0), 0);
+    EXPECT_EQ(Input(), (Lines{"513 40 24", "512 42 26"})) << "another finger";
+    PostMessageW(owner_.Handle(), WM_POINTERCAPTURECHANGED, MAKEWPARAM(1, 0), 0);
+    EXPECT_EQ(Input(), Lines{"514 42 26"});
+}
+
 TEST_F(Win32DisplayTest, PassesKeysOn) {
     Key(VK_LEFT);
     Key(VK_LEFT, KEYEVENTF_KEYUP);
@@ -227,6 +259,27 @@ TEST_F(Win32DisplayTest, KeepsTheSizeOfAScreenLargerThanTheDesktop) {
     RECT client{};
     GetClientRect(owner_.Handle(), &client);
     EXPECT_EQ(client.right, width);
+}
+
+TEST_F(Win32DisplayTest, KeepsItsSizeOnAMonitorWithAnotherFrame) {
+    SetWindowPos(owner_.Handle(), nullptr, 0, 0, 400, 300, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    RECT proposed{0, 0, 2 * kWidth, 2 * kHeight};
+    SendMessageW(owner_.Handle(), WM_DPICHANGED, MAKEWPARAM(192, 192), reinterpret_cast<LPARAM>(&proposed));
+    RECT client{};
+    GetClientRect(owner_.Handle(), &client);
+    EXPECT_EQ(client.right, kWidth);
+    EXPECT_EQ(client.bottom, kHeight);
+}
+
+TEST_F(Win32DisplayTest, ShowsAWindowThatADisplayWithoutAPanelHasHidden) {
+    display_.reset();
+    const std::unique_ptr<Display> hidden = CreateDisplay("memory");
+    ASSERT_TRUE(hidden->Open(kWidth, kHeight, L"", owner_.Handle()));
+    EXPECT_NE(GetWindowLongPtrW(owner_.Handle(), GWL_EXSTYLE) & WS_EX_LAYERED, 0);
+    const std::unique_ptr<Display> shown = CreateDisplay("win32");
+    ASSERT_TRUE(shown->Open(kWidth, kHeight, L"", owner_.Handle()));
+    const LONG_PTR hides = WS_EX_LAYERED | WS_EX_TRANSPARENT | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE;
+    EXPECT_EQ(GetWindowLongPtrW(owner_.Handle(), GWL_EXSTYLE) & hides, 0);
 }
 
 TEST_F(Win32DisplayTest, SaysWhyItCannotOpen) {
