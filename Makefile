@@ -48,8 +48,7 @@ windows: configure-windows  ## Build the programs for Windows into build/windows
 test-windows: configure-windows  ## Run every test on Windows' side, under Wine
 	@cmake --preset windows32 --log-level=WARNING
 	@cmake --build --preset windows32 --parallel $(JOBS)
-	@cmake --build --preset windows --parallel $(JOBS)
-	@cmake --build --preset windows --parallel $(JOBS) --target windows_folder
+	@cmake --build --preset windows --parallel $(JOBS) --target all windows_folder
 	@tools/windows/test $(JOBS)
 
 bench: configure  ## Measure speed, frames, start, memory and size
