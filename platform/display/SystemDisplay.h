@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Display.h"
+#include "platform/DisplayModule.h"
 
 /// What the displays need of the system under them.
 namespace korvane {
@@ -9,8 +9,14 @@ namespace korvane {
 /// that name.
 std::unique_ptr<Display> CreateSystemDisplay(const char* name);
 
-/// Keeps the owner of a display without a panel, if there is one, out of its user's sight, `width` by
-/// `height` pixels large. What is invalidated of it is still painted.
+/// Loads the module "korvane-display-<name>" that lies beside this library, and gives its entry. Null, with
+/// DisplayFailure saying why, when it cannot. The module stays loaded: what it brought with it may not be
+/// unloadable.
+DisplayModuleEntry LoadDisplayModule(const char* name);
+
+/// Shows the owner of a display that does not show it, if there is one, such that what is invalidated of it
+/// is painted while its user sees nothing of it, `width` by `height` pixels large. Leaves the focus where it
+/// is.
 void HideOwner(HWND owner, int width, int height);
 
 }  // namespace korvane

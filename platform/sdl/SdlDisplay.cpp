@@ -6,10 +6,10 @@
 #include <string>
 #include <string_view>
 
+#include "platform/display/ScreenSize.h"
+
 namespace korvane {
 namespace {
-
-constexpr int kLargest = 16384;
 
 // UTF-8 of a window title. The module carries its own, since it links to nothing of the library.
 std::string TitleText(const wchar_t* title) {
@@ -35,8 +35,8 @@ SdlDisplay::~SdlDisplay() {
 }
 
 bool SdlDisplay::Open(int width, int height, const wchar_t* title, HWND owner) {
-    if (width < 1 || height < 1 || width > kLargest || height > kLargest) {
-        host_.fail("the size of the screen must be 1 to 16384 pixels each way");
+    if (!IsScreenSize(width, height)) {
+        host_.fail(kNoScreenSize);
         return false;
     }
     Close();
@@ -91,11 +91,7 @@ void SdlDisplay::Close() {
 
 void SdlDisplay::Present(const std::uint32_t* pixels, int stridePixels, int left, int top, int right,
                          int bottom) {
-    left = std::max(left, 0);
-    top = std::max(top, 0);
-    right = std::min(right, width_);
-    bottom = std::min(bottom, height_);
-    if (!window_ || !pixels || left >= right || top >= bottom)
+    if (!window_ || !pixels || !CutToScreen(width_, height_, left, top, right, bottom))
         return;
     picture_.Update({left, top, right - left, bottom - top},
                     pixels + static_cast<std::ptrdiff_t>(top) * stridePixels + left, stridePixels);

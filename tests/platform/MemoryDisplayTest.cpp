@@ -55,9 +55,12 @@ TEST(MemoryDisplay, RefusesASizeThatNoScreenHas) {
 }
 
 TEST(MemoryDisplay, HasItsOwnerPaintedAllTheSame) {
-    const TestWindow owner;
+    TestWindow::Options unseen;
+    unseen.style = WS_POPUP;
+    const TestWindow owner(unseen);
     const std::unique_ptr<Display> display = CreateDisplay("memory");
     ASSERT_TRUE(display->Open(320, 200, L"", owner.Handle()));
+    EXPECT_TRUE(IsWindowVisible(owner.Handle()));
     DrainQueue();
     ValidateRect(owner.Handle(), nullptr);
     InvalidateRect(owner.Handle(), nullptr, FALSE);

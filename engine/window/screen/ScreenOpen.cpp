@@ -63,10 +63,10 @@ bool CLQScreen::Open(const char* display, int width, int height, const wchar_t* 
     if (!back)
         return false;
     const wchar_t* caption = title ? title : L"";
-    HWND hwnd = !RegisterScreenClass()
-                    ? nullptr
-                    : ::CreateWindowExW(0, kScreenClass, caption, WS_POPUP | WS_VISIBLE, 0, 0, width, height,
-                                        nullptr, nullptr, nullptr, nullptr);
+    // The display shows it, once it knows how.
+    HWND hwnd = !RegisterScreenClass() ? nullptr
+                                       : ::CreateWindowExW(0, kScreenClass, caption, WS_POPUP, 0, 0, width,
+                                                           height, nullptr, nullptr, nullptr, nullptr);
     if (!hwnd)
         return korvane::FailDisplay("the system gives the screen no window");
     if (!back->Open(width, height, caption, hwnd)) {

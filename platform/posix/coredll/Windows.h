@@ -44,6 +44,7 @@ constexpr int CW_USEDEFAULT = static_cast<int>(0x80000000);
 constexpr int SW_HIDE = 0;
 constexpr int SW_SHOWNORMAL = 1;
 constexpr int SW_SHOW = 5;
+constexpr int SW_SHOWNA = 8;
 
 constexpr int GWLP_WNDPROC = -4;
 constexpr int GWL_STYLE = -16;

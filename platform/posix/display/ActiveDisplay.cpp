@@ -1,8 +1,9 @@
-#include "platform/posix/display/ActiveDisplay.h"
+#include "platform/display/ActiveDisplay.h"
 
 #include "platform/posix/queue/Session.h"
 
 namespace korvane {
+
 bool MayActivateDisplay(const Display* display, HWND owner) {
     const ThreadQueue& queue = CurrentQueue();
     Session& session = TheSession();
@@ -13,7 +14,7 @@ bool MayActivateDisplay(const Display* display, HWND owner) {
     return !session.display || session.display == display || FailDisplay("another display is open");
 }
 
-void ActivateDisplay(Display* display) {
+void ActivateDisplay(Display* display, HWND) {
     ThreadQueue& queue = CurrentQueue();
     Session& session = TheSession();
     const std::lock_guard<std::mutex> lock(session.mutex);
@@ -21,7 +22,7 @@ void ActivateDisplay(Display* display) {
     session.displayQueue = &queue;
 }
 
-void DeactivateDisplay(Display* display) {
+void DeactivateDisplay(const Display* display) {
     Session& session = TheSession();
     const std::lock_guard<std::mutex> lock(session.mutex);
     if (session.display != display)

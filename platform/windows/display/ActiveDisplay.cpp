@@ -26,7 +26,7 @@ bool MayActivateDisplay(const Display* display, HWND owner) {
     return !active.display || active.display == display || FailDisplay("another display is open");
 }
 
-void ActivateDisplay(const Display* display, HWND owner) {
+void ActivateDisplay(Display* display, HWND owner) {
     Active& active = TheActive();
     const std::lock_guard<std::mutex> lock(active.mutex);
     active.display = display;

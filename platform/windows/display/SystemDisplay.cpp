@@ -1,10 +1,13 @@
 #include "platform/display/SystemDisplay.h"
 
+#include <string>
 #include <string_view>
 
+#include "platform/Unicode.h"
+#include "platform/display/ModuleDisplay.h"
 #include "platform/display/ModuleName.h"
-#include "platform/windows/display/ModuleDisplay.h"
 #include "platform/windows/display/Win32Display.h"
+#include "platform/windows/files/OwnFolder.h"
 
 namespace korvane {
 namespace {
@@ -33,9 +36,18 @@ std::unique_ptr<Display> CreateSystemDisplay(const char* name) {
         return std::make_unique<Win32Display>();
     }
     if (name && IsDisplayModuleName(name))
-        return LoadDisplayModule(name);
+        return CreateModuleDisplay(name);
     FailDisplay("there is no display of that name");
     return nullptr;
+}
+
+DisplayModuleEntry LoadDisplayModule(const char* name) {
+    const std::wstring path = OwnFolder() + L"korvane-display-" + FromUtf8(name) + L".dll";
+    const HMODULE module = LoadLibraryW(path.c_str());
+    const FARPROC entry = module ? GetProcAddress(module, kDisplayModuleEntryName) : nullptr;
+    if (!entry)
+        FailDisplay((ToUtf8(path) + (module ? " is no display module" : " cannot be loaded")).c_str());
+    return reinterpret_cast<DisplayModuleEntry>(reinterpret_cast<void*>(entry));
 }
 
 // A hidden window would not be painted. One that lets everything through looks and feels like none.

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
+#include "platform/display/ScreenSize.h"
 #include "platform/windows/display/ActiveDisplay.h"
 #include "platform/windows/display/Touch.h"
 
 namespace korvane {
 namespace {
 
-constexpr int kLargest = 16384;
 constexpr wchar_t kProperty[] = L"Korvane.Display";
 constexpr DWORD kStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
 
@@ -39,8 +39,8 @@ Win32Display::~Win32Display() {
 }
 
 bool Win32Display::Open(int width, int height, const wchar_t* title, HWND owner) {
-    if (width < 1 || height < 1 || width > kLargest || height > kLargest)
-        return FailDisplay("the size of the screen must be 1 to 16384 pixels each way");
+    if (!IsScreenSize(width, height))
+        return FailDisplay(kNoScreenSize);
     if (!MayActivateDisplay(this, owner))
         return false;
     Close();
@@ -114,11 +114,7 @@ void Win32Display::Close() {
 
 void Win32Display::Present(const std::uint32_t* pixels, int stridePixels, int left, int top, int right,
                            int bottom) {
-    left = std::max(left, 0);
-    top = std::max(top, 0);
-    right = std::min(right, width_);
-    bottom = std::min(bottom, height_);
-    if (!owner_ || !pixels || left >= right || top >= bottom)
+    if (!owner_ || !pixels || !CutToScreen(width_, height_, left, top, right, bottom))
         return;
     const ClientDc dc(owner_);
     if (!dc.Get())
@@ -161,7 +157,7 @@ LRESULT CALLBACK Win32Display::Procedure(HWND window, UINT message, WPARAM wPara
         case WM_GETMINMAXINFO: {
             // A screen larger than the desktop keeps its size.
             const LRESULT result = DefWindowProcW(window, message, wParam, lParam);
-            reinterpret_cast<MINMAXINFO*>(lParam)->ptMaxTrackSize = {2 * kLargest, 2 * kLargest};
+            reinterpret_cast<MINMAXINFO*>(lParam)->ptMaxTrackSize = {2 * kLargestScreen, 2 * kLargestScreen};
             return result;
         }
         default:

@@ -8,10 +8,11 @@ namespace korvane {
 /// thread.
 bool MayActivateDisplay(const Display* display, HWND owner);
 
-/// Makes the calling thread's queue wait for this display's events. From here on other threads wake it.
-void ActivateDisplay(Display* display);
+/// Joins the display to the calling thread's queue: while that waits, what the user does there ends the wait.
+/// From here on other threads may wake the display.
+void ActivateDisplay(Display* display, HWND owner);
 
 /// After this no thread calls the display any more.
-void DeactivateDisplay(Display* display);
+void DeactivateDisplay(const Display* display);
 
 }  // namespace korvane

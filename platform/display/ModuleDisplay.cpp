@@ -1,13 +1,12 @@
-#include "platform/windows/display/ModuleDisplay.h"
+#include "platform/display/ModuleDisplay.h"
 
 #include <string>
+#include <utility>
 
-#include "platform/DisplayModule.h"
 #include "platform/Simulation.h"
-#include "platform/Unicode.h"
+#include "platform/clock/Clock.h"
+#include "platform/display/ActiveDisplay.h"
 #include "platform/display/SystemDisplay.h"
-#include "platform/windows/display/ActiveDisplay.h"
-#include "platform/windows/files/OwnFolder.h"
 
 namespace korvane {
 namespace {
@@ -15,7 +14,7 @@ namespace {
 bool PostInputOfAge(HWND owner, UINT message, WPARAM wParam, LPARAM lParam, DWORD ageMs) {
     // On the manual clock the real age means nothing.
     const DWORD age = IsManualClock() ? 0 : ageMs;
-    return PostInputAt(owner, message, wParam, lParam, desktop::GetTickCount() - age);
+    return PostInputAt(owner, message, wParam, lParam, TickCount() - age);
 }
 
 void InvalidateOwner(HWND owner) {
@@ -35,6 +34,7 @@ ModuleDisplay::~ModuleDisplay() {
 bool ModuleDisplay::Open(int width, int height, const wchar_t* title, HWND owner) {
     if (!MayActivateDisplay(this, owner))
         return false;
+    // What opens anew must not be woken halfway through.
     DeactivateDisplay(this);
     if (!inner_->Open(width, height, title, owner))
         return false;
@@ -43,22 +43,16 @@ bool ModuleDisplay::Open(int width, int height, const wchar_t* title, HWND owner
     return true;
 }
 
-std::unique_ptr<Display> LoadDisplayModule(const char* name) {
+std::unique_ptr<Display> CreateModuleDisplay(const char* name) {
     static constexpr DisplayHost kHost{&PostInputOfAge, &InvalidateOwner, &KeepFailure};
-    const std::wstring path = OwnFolder() + L"korvane-display-" + FromUtf8(name) + L".dll";
-    const HMODULE module = LoadLibraryW(path.c_str());
-    if (!module) {
-        FailDisplay(("cannot load " + ToUtf8(path)).c_str());
+    const DisplayModuleEntry entry = LoadDisplayModule(name);
+    if (!entry)
         return nullptr;
-    }
-    const auto entry = reinterpret_cast<DisplayModuleEntry>(
-        reinterpret_cast<void*>(GetProcAddress(module, kDisplayModuleEntryName)));
-    std::unique_ptr<Display> inner(entry ? entry(kDisplayModuleVersion, &kHost) : nullptr);
-    if (!inner) {
-        FailDisplay((ToUtf8(path) + " is no display module of this version").c_str());
-        return nullptr;
-    }
-    return std::make_unique<ModuleDisplay>(std::move(inner));
+    std::unique_ptr<Display> inner(entry(kDisplayModuleVersion, &kHost));
+    if (inner)
+        return std::make_unique<ModuleDisplay>(std::move(inner));
+    FailDisplay((std::string("the display module of \"") + name + "\" is of another version").c_str());
+    return nullptr;
 }
 
 }  // namespace korvane

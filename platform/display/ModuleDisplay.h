@@ -6,8 +6,8 @@
 
 namespace korvane {
 
-/// A display that a module draws, while its owner stays out of sight. What the user does there the module
-/// posts by itself: here a wait is one for the system's messages, and never for the module's events.
+/// A display that a module draws, joined to the message queue for as long as it is open. Its owner stays out
+/// of sight.
 class ModuleDisplay : public Display {
   public:
     explicit ModuleDisplay(std::unique_ptr<Display> inner) : inner_(std::move(inner)) {}
@@ -26,8 +26,7 @@ class ModuleDisplay : public Display {
     std::unique_ptr<Display> inner_;
 };
 
-/// Loads the module "korvane-display-<name>.dll" that lies beside this library. Null, with DisplayFailure
-/// saying why, when it cannot. The module stays loaded: what it brought with it may not be unloadable.
-std::unique_ptr<Display> LoadDisplayModule(const char* name);
+/// The display of the module of that name. Null, with DisplayFailure saying why, when there is none.
+std::unique_ptr<Display> CreateModuleDisplay(const char* name);
 
 }  // namespace korvane
