@@ -95,7 +95,8 @@ bool TemporaryFile::Rename() {
     auto* const request = reinterpret_cast<RenameRequest*>(bytes.data());
     request->nameBytes = static_cast<DWORD>(nameBytes);
     std::memcpy(request->name, full.data(), nameBytes);
-    renamed_ = TryWhileInUse([this, &bytes] { return RenameOver(file_.Get(), bytes); });
+    // Who may make files in the folder may most likely replace this one: somebody has it open.
+    renamed_ = TryWhileInUse(kInUseMs, [this, &bytes] { return RenameOver(file_.Get(), bytes); });
     return renamed_;
 }
 

@@ -1,25 +1,30 @@
 #pragma once
 
-#include <windows.h>
+#include "platform/windows/System.h"
 
 namespace korvane {
 
+constexpr ULONGLONG kInUseMs = 500;
+
 /// Calls `attempt` until it succeeds, or fails for another reason than that somebody has the file open, or
 /// half a second has passed. A reader or writer has it for a moment, and so have programs that look into
-/// every file. Returns whether it succeeded.
+/// every file. The system may say "access denied" of such a file, as it does of one that is never to be had:
+/// `deniedMs` is how long that is believed to be passing. Returns whether it succeeded.
 template <class Attempt>
-bool TryWhileInUse(const Attempt& attempt) {
-    constexpr int kAttempts = 250;
-    constexpr DWORD kPauseMs = 2;
-    for (int i = 1;; ++i) {
-        if (attempt())
-            return true;
+bool TryWhileInUse(ULONGLONG deniedMs, const Attempt& attempt) {
+    const ULONGLONG start = GetTickCount64();
+    while (!attempt()) {
         const DWORD error = GetLastError();
-        if (i == kAttempts || (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED))
+        const ULONGLONG limit = error == ERROR_SHARING_VIOLATION ? kInUseMs
+                                : error == ERROR_ACCESS_DENIED   ? deniedMs
+                                                                 : 0;
+        // A pause takes a tick of the system's clock, however short it is.
+        if (GetTickCount64() - start >= limit)
             return false;
-        SleepEx(kPauseMs, FALSE);
+        SleepEx(1, FALSE);
         SetLastError(error);
     }
+    return true;
 }
 
 }  // namespace korvane

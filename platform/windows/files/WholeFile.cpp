@@ -1,21 +1,16 @@
 #include <algorithm>
 #include <memory>
 #include <string>
-#include <windows.h>
 
 #include "platform/Files.h"
 #include "platform/windows/Handle.h"
+#include "platform/windows/LastError.h"
 #include "platform/windows/files/HostPath.h"
 #include "platform/windows/files/TemporaryFile.h"
 #include "platform/windows/files/TryWhileInUse.h"
 
 namespace korvane {
 namespace {
-
-bool Refuse(DWORD error) {
-    SetLastError(error);
-    return false;
-}
 
 // Neither a folder nor a file that nobody may write to can be replaced.
 constexpr DWORD kNotReplaced = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY;
@@ -24,7 +19,9 @@ constexpr DWORD kKept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATT
 Handle OpenToRead(const std::wstring& host) {
     constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     Handle file;
-    TryWhileInUse([&file, &host] {
+    // A file that is just being removed is denied for a moment.
+    constexpr ULONGLONG kRemovalMs = 50;
+    TryWhileInUse(kRemovalMs, [&file, &host] {
         file = Handle(CreateFileW(host.c_str(), GENERIC_READ, kShared, nullptr, OPEN_EXISTING,
                                   FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
         return file.IsOpen();
