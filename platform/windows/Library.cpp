@@ -1,7 +1,9 @@
-#include <string>
-#include <windows.h>
+#include "platform/windows/coredll/Library.h"
 
-#include "platform/Export.h"
+#include <cwchar>
+#include <string>
+
+#include "platform/Simulation.h"
 #include "platform/windows/files/FullPath.h"
 #include "platform/windows/files/HostPath.h"
 
@@ -25,14 +27,23 @@ bool HasExtension(const std::wstring& path) {
     return path.find(L'.', name) != std::wstring::npos;
 }
 
+// Where there is no device, a bare name is a library that the system looks for in its folders, and never in
+// the current one before those.
+bool IsForTheSystemToFind(LPCWSTR path) {
+    return path && *path && !std::wcspbrk(path, L"\\/:") && DeviceRoot().empty();
+}
+
 }  // namespace
 
 namespace desktop {
 
-KORVANE_API HMODULE LoadLibraryW(LPCWSTR path) {
+HMODULE LoadLibraryW(LPCWSTR path) {
+    const WithoutMessages silence;
+    if (IsForTheSystemToFind(path))
+        return LoadLibraryExW(path, nullptr, 0);
     std::wstring host = RequireHostPath(path);
     const DWORD attributes =
-        host.empty() ? INVALID_FILE_ATTRIBUTES : GetFileAttributesW((host = FullPath(host)).c_str());
+        host.empty() ? INVALID_FILE_ATTRIBUTES : ::GetFileAttributesW((host = FullPath(host)).c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
         SetLastError(ERROR_MOD_NOT_FOUND);
         return nullptr;
@@ -40,7 +51,6 @@ KORVANE_API HMODULE LoadLibraryW(LPCWSTR path) {
     // The system would add an extension of its own.
     if (!HasExtension(host))
         host += L'.';
-    const WithoutMessages silence;
     // What the library needs may lie beside it.
     return LoadLibraryExW(host.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
 }
@@ -48,7 +58,7 @@ KORVANE_API HMODULE LoadLibraryW(LPCWSTR path) {
 }  // namespace desktop
 }  // namespace korvane
 
-KORVANE_API FARPROC GetProcAddressW(HMODULE module, LPCWSTR name) {
+FARPROC GetProcAddressW(HMODULE module, LPCWSTR name) {
     std::string narrow;
     bool isPlain = true;
     for (; name && *name; ++name) {

@@ -1,8 +1,7 @@
 #include "platform/files/DefaultDeviceRoot.h"
 
-#include <windows.h>
-
 #include "platform/Unicode.h"
+#include "platform/windows/System.h"
 #include "platform/windows/files/OwnFolder.h"
 
 namespace korvane {

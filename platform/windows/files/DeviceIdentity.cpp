@@ -1,7 +1,5 @@
 #include "platform/files/DeviceIdentity.h"
 
-#include <windows.h>
-
 #include "platform/CaseFold.h"
 #include "platform/Simulation.h"
 #include "platform/Unicode.h"

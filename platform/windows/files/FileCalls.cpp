@@ -4,19 +4,14 @@
 #include <fcntl.h>
 #include <io.h>
 #include <string>
-#include <windows.h>
 
-#include "platform/Export.h"
 #include "platform/windows/Handle.h"
+#include "platform/windows/LastError.h"
+#include "platform/windows/coredll/Files.h"
 #include "platform/windows/files/HostPath.h"
 
 namespace korvane {
 namespace {
-
-bool Refuse(DWORD error) {
-    SetLastError(error);
-    return false;
-}
 
 // What a mode of fopen asks of the system and of the C library.
 struct OpenMode {
@@ -61,24 +56,24 @@ std::FILE* Refused(int error) {
 
 namespace desktop {
 
-KORVANE_API BOOL CreateDirectoryW(LPCWSTR path, SECURITY_ATTRIBUTES* security) {
+BOOL CreateDirectoryW(LPCWSTR path, SECURITY_ATTRIBUTES* security) {
     const std::wstring host = RequireHostPath(path);
     return !host.empty() && ::CreateDirectoryW(host.c_str(), security);
 }
 
-KORVANE_API BOOL RemoveDirectoryW(LPCWSTR path) {
+BOOL RemoveDirectoryW(LPCWSTR path) {
     const std::wstring host = RequireHostPath(path);
     if (host.empty())
         return FALSE;
     return IsDeviceRoot(path) ? Refuse(ERROR_ACCESS_DENIED) : ::RemoveDirectoryW(host.c_str());
 }
 
-KORVANE_API BOOL DeleteFileW(LPCWSTR path) {
+BOOL DeleteFileW(LPCWSTR path) {
     const std::wstring host = RequireHostPath(path);
     return !host.empty() && ::DeleteFileW(host.c_str());
 }
 
-KORVANE_API BOOL MoveFileW(LPCWSTR from, LPCWSTR to) {
+BOOL MoveFileW(LPCWSTR from, LPCWSTR to) {
     const std::wstring hostFrom = RequireHostPath(from);
     const std::wstring hostTo = RequireHostPath(to);
     if (hostFrom.empty() || hostTo.empty())
@@ -88,13 +83,13 @@ KORVANE_API BOOL MoveFileW(LPCWSTR from, LPCWSTR to) {
     return ::MoveFileW(hostFrom.c_str(), hostTo.c_str());
 }
 
-KORVANE_API DWORD GetFileAttributesW(LPCWSTR path) {
+DWORD GetFileAttributesW(LPCWSTR path) {
     const std::wstring host = RequireHostPath(path);
     return host.empty() ? INVALID_FILE_ATTRIBUTES : ::GetFileAttributesW(host.c_str());
 }
 
 // Opened by the C library itself, a file could not be replaced meanwhile, nor removed.
-KORVANE_API std::FILE* _wfopen(const wchar_t* path, const wchar_t* mode) {
+std::FILE* _wfopen(const wchar_t* path, const wchar_t* mode) {
     const OpenMode parsed = ParseMode(mode);
     const std::wstring host = RequireHostPath(path);
     if (host.empty() || parsed.name.empty())

@@ -1,8 +1,8 @@
 #include <cwchar>
 #include <string>
-#include <windows.h>
 
-#include "platform/Export.h"
+#include "platform/windows/LastError.h"
+#include "platform/windows/coredll/Files.h"
 #include "platform/windows/files/HostPath.h"
 
 namespace korvane {
@@ -35,7 +35,7 @@ HANDLE FindNone(DWORD error) {
 
 namespace desktop {
 
-KORVANE_API HANDLE FindFirstFileW(LPCWSTR pattern, WIN32_FIND_DATAW* data) {
+HANDLE FindFirstFileW(LPCWSTR pattern, WIN32_FIND_DATAW* data) {
     const std::wstring host = RequireHostPath(pattern);
     if (!data)
         return FindNone(ERROR_INVALID_PARAMETER);
@@ -49,11 +49,9 @@ KORVANE_API HANDLE FindFirstFileW(LPCWSTR pattern, WIN32_FIND_DATAW* data) {
     return FindNone(ERROR_FILE_NOT_FOUND);
 }
 
-KORVANE_API BOOL FindNextFileW(HANDLE search, WIN32_FIND_DATAW* data) {
-    if (!data) {
-        SetLastError(ERROR_INVALID_PARAMETER);
-        return FALSE;
-    }
+BOOL FindNextFileW(HANDLE search, WIN32_FIND_DATAW* data) {
+    if (!data)
+        return Refuse(ERROR_INVALID_PARAMETER);
     return ::FindNextFileW(search, data) && SkipDots(search, *data);
 }
 

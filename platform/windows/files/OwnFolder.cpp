@@ -1,6 +1,6 @@
 #include "platform/windows/files/OwnFolder.h"
 
-#include <windows.h>
+#include "platform/windows/System.h"
 
 namespace korvane {
 
