@@ -83,6 +83,22 @@ TEST(DevicePath, MayBeLong) {
     EXPECT_TRUE(DeleteFileW(path.c_str()));
 }
 
+TEST(DevicePath, MayBeLongBelowARootRelativeToTheCurrentFolder) {
+    const DeviceFolder device;
+    const fs::path before = fs::current_path();
+    fs::create_directories(device.At(std::string(120, 'c') + "/root"));
+    fs::current_path(device.At(std::string(120, 'c')));
+    SetDeviceRoot("root");
+    const std::wstring folder = L'\\' + std::wstring(120, L'f');
+    EXPECT_TRUE(CreateDirectoryW(folder.c_str(), nullptr));
+    std::FILE* const file = _wfopen((folder + L"\\file.ini").c_str(), L"wb");
+    EXPECT_NE(file, nullptr);
+    if (file)
+        std::fclose(file);
+    EXPECT_TRUE(DeleteFileW((folder + L"\\file.ini").c_str()));
+    fs::current_path(before);
+}
+
 TEST(DeviceRoot, ComesFromTheEnvironmentUnlessSet) {
     {
         const EnvironmentVariable chosen("KORVANE_DEVICE_ROOT", "/some/where");

@@ -26,13 +26,14 @@ std::wstring Resolve(std::wstring_view devicePath) {
     return path;
 }
 
-// The system takes longer paths only in this form, which it does not work out any more.
+// The system takes longer paths only in this form, which it leaves as it is.
 std::wstring WithoutLimit(const std::wstring& path) {
     // A folder's path leaves room for a short name of a file in it.
     constexpr std::size_t kLongest = MAX_PATH - 12 - 1;
-    if (path.size() <= kLongest)
-        return path;
+    // A root may be relative to the current folder, which counts.
     const std::wstring full = FullPath(path);
+    if (full.size() <= kLongest)
+        return path;
     if (full.compare(0, 4, L"\\\\?\\") == 0)
         return full;
     return full.compare(0, 2, L"\\\\") == 0 ? L"\\\\?\\UNC" + full.substr(1) : L"\\\\?\\" + full;
