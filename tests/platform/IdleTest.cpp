@@ -7,6 +7,9 @@
 namespace korvane {
 namespace {
 
+/// So often that a thread ends at every moment of a wait for it.
+constexpr int kRounds = 100;
+
 TEST(Idle, EndsALoopThatNothingCouldEverWake) {
     const StoppedClock clock;
     const TestWindow window;
@@ -86,22 +89,26 @@ TEST(Idle, MayReplaceItsHandlerInItsHandler) {
 TEST(Idle, WaitsForAnotherThreadThatMayPost) {
     const StoppedClock clock;
     const TestWindow window;
-    std::thread poster([&] { PostMessageW(window.Handle(), WM_APP, 0, 0); });
-    MSG message{};
-    EXPECT_EQ(GetMessageW(&message, nullptr, 0, 0), TRUE);
-    EXPECT_EQ(message.message, WM_APP);
-    poster.join();
+    for (int i = 0; i < kRounds; ++i) {
+        std::thread poster([&] { PostMessageW(window.Handle(), WM_APP, 0, 0); });
+        MSG message{};
+        EXPECT_EQ(GetMessageW(&message, nullptr, 0, 0), TRUE) << i;
+        EXPECT_EQ(message.message, WM_APP);
+        poster.join();
+    }
 }
 
 TEST(Idle, WakesWhenAnotherThreadMovesTheClock) {
     const StoppedClock clock;
     const TestWindow window;
     SetTimer(window.Handle(), 1, 50, nullptr);
-    std::thread mover([] { AdvanceClock(50); });
-    MSG message{};
-    EXPECT_EQ(GetMessageW(&message, nullptr, 0, 0), TRUE);
-    EXPECT_EQ(message.message, WM_TIMER);
-    mover.join();
+    for (int i = 0; i < kRounds; ++i) {
+        std::thread mover([] { AdvanceClock(50); });
+        MSG message{};
+        EXPECT_EQ(GetMessageW(&message, nullptr, 0, 0), TRUE) << i;
+        EXPECT_EQ(message.message, WM_TIMER);
+        mover.join();
+    }
 }
 
 }  // namespace

@@ -145,14 +145,15 @@ BOOL GetMessageW(MSG* message, HWND window, UINT first, UINT last) {
             Adapt(queue, *message, true);
         return result;
     }
-    for (;;) {
-        if (Take(queue, filter, true, *message))
+    for (WaitEnd end = WaitEnd::LookAgain;;) {
+        if (end != WaitEnd::NothingWillCome && Take(queue, filter, true, *message))
             return message->message != WM_QUIT;
-        if (WaitUnderManualClock(queue) == WaitEnd::NothingWillCome) {
+        if (end != WaitEnd::LookAgain) {
             *message = {nullptr, WM_QUIT, 0, 0, 0, {}};
             StampAsNew(*message);
             return FALSE;
         }
+        end = WaitUnderManualClock(queue);
     }
 }
 

@@ -36,7 +36,7 @@ WaitEnd WaitUnderManualClock(ThreadQueue& queue) {
         return RunIdleHandler(queue) ? WaitEnd::LookAgain : WaitEnd::NothingWillCome;
     const bool onDisplay = IsDisplayThread();
     if (!onDisplay && !OtherThreadsExist())
-        return WaitEnd::NothingWillCome;
+        return WaitEnd::LookOnceMore;
     constexpr DWORD kMessages = QS_SENDMESSAGE | QS_POSTMESSAGE | QS_HOTKEY | QS_PAINT;
     MsgWaitForMultipleObjectsEx(1, &queue.changed, onDisplay ? INFINITE : kRecheckMs,
                                 onDisplay ? kMessages | QS_INPUT : kMessages, 0);
