@@ -13,7 +13,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The program lies in a folder without a device, beside a library of its own.
+// No device lies beside the program, and none is chosen.
 class NoDevice : public testing::Test {
   protected:
     NoDevice() {
