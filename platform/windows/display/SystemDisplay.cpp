@@ -28,11 +28,19 @@ void RefuseMagnification() {
         setAware();
 }
 
+// A program that was started with a double click gets a console for itself, whose end would be the program's.
+void LeaveOwnConsole() {
+    DWORD processes[2];
+    if (GetConsoleProcessList(processes, 2) == 1)
+        FreeConsole();
+}
+
 }  // namespace
 
 std::unique_ptr<Display> CreateSystemDisplay(const char* name) {
     if (std::string_view(name ? name : "") == DefaultDisplay()) {
         RefuseMagnification();
+        LeaveOwnConsole();
         return std::make_unique<Win32Display>();
     }
     if (name && IsDisplayModuleName(name))
