@@ -1,3 +1,5 @@
+#include <string>
+
 #include <gtest/gtest.h>
 
 #include "platform/coredll.h"
@@ -119,6 +121,18 @@ TEST_F(FileCallsTest, OpensAFileThatIsOpen) {
     std::fclose(reader);
     std::fclose(writer);
     EXPECT_EQ(GetFileAttributesW(L"file"), INVALID_FILE_ATTRIBUTES);
+}
+
+TEST_F(FileCallsTest, RefusesPathsThatNoSystemCounts) {
+    const std::wstring path = L"\\" + std::wstring(100000, L'x');
+    EXPECT_FALSE(CreateDirectoryW(path.c_str(), nullptr));
+    EXPECT_EQ(GetLastError(), ERROR_FILENAME_EXCED_RANGE);
+    EXPECT_EQ(GetFileAttributesW(path.c_str()), INVALID_FILE_ATTRIBUTES);
+    EXPECT_FALSE(MoveFileW(L"\\", path.c_str()));
+    WIN32_FIND_DATAW found;
+    EXPECT_EQ(FindFirstFileW(path.c_str(), &found), INVALID_HANDLE_VALUE);
+    EXPECT_EQ(_wfopen(path.c_str(), L"rb"), nullptr);
+    EXPECT_EQ(LoadLibraryW(path.c_str()), nullptr);
 }
 
 TEST_F(FileCallsTest, RefusesMissingNames) {

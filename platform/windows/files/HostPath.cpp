@@ -26,6 +26,10 @@ std::wstring Resolve(std::wstring_view devicePath) {
     return path;
 }
 
+/// UTF-16 units of a path that the system keeps as a counted string, of which some versions count less than
+/// 65536 bytes without a look at what is left over.
+constexpr std::size_t kLongestOfAll = 32000;
+
 // The system takes longer paths only in this form, which it leaves as it is.
 std::wstring WithoutLimit(const std::wstring& path) {
     // A folder's path leaves room for a short name of a file in it.
@@ -46,7 +50,12 @@ std::wstring RequireHostPath(const wchar_t* devicePath) {
         SetLastError(ERROR_PATH_NOT_FOUND);
         return {};
     }
-    return WithoutLimit(Resolve(devicePath));
+    const std::wstring path = Resolve(devicePath);
+    if (path.size() > kLongestOfAll) {
+        SetLastError(ERROR_FILENAME_EXCED_RANGE);
+        return {};
+    }
+    return WithoutLimit(path);
 }
 
 bool IsDeviceRoot(const wchar_t* devicePath) {
