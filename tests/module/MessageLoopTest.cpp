@@ -53,8 +53,13 @@ class MessageLoop : public testing::Test {
     /// Runs the loop over what waits, and takes away the WM_QUIT that it posts.
     static std::vector<UINT> Run() {
         handed.clear();
-        PostQuitMessage(7);
+        // Quit does not wait for input: it is asked for when none is left.
+        korvane::SetIdleHandler([] {
+            PostQuitMessage(7);
+            return true;
+        });
         WndDoModel();
+        korvane::SetIdleHandler({});
         MSG msg = {};
         EXPECT_TRUE(PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE));
         EXPECT_EQ(msg.message, WM_QUIT);
