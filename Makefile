@@ -44,7 +44,6 @@ configure-windows: setup-windows
 windows: configure-windows  ## Build the programs for Windows into build/windows/KorvaneEx
 	@cmake --build --preset windows --parallel $(JOBS) --target windows_folder
 
-# A 32-bit program needs a 32-bit Wine, which a machine of 64 bits has only together with libraries of 32 bits.
 test-windows: configure-windows  ## Run every test on Windows' side, under Wine
 	@cmake --preset windows32 --log-level=WARNING
 	@cmake --build --preset windows32 --parallel $(JOBS)

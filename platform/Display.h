@@ -37,9 +37,10 @@ class Display {
 };
 
 /// A display by name. "memory" keeps what is presented and has no events. On Windows "win32" makes the owner
-/// a window that the user sees and touches. Elsewhere any other name is a module beside this library ("sdl":
-/// a window, or the whole screen of a device), loaded only here. Null, with DisplayFailure saying why, when
-/// there is none of that name.
+/// a window that the user sees and touches; once open, it has left a console that was the program's own, as a
+/// double click opens it. Elsewhere any other name is a module beside this library ("sdl": a window, or the
+/// whole screen of a device), loaded only here. Null, with DisplayFailure saying why, when there is none of
+/// that name.
 KORVANE_API std::unique_ptr<Display> CreateDisplay(const char* name);
 
 /// The name of the display that a user can see and touch: "win32" on Windows, "sdl" elsewhere.

@@ -4,7 +4,9 @@
 
 namespace korvane {
 
+/// Pixels of a screen each way, at most.
 constexpr int kLargestScreen = 16384;
+/// Why a display refuses to open.
 constexpr char kNoScreenSize[] = "the size of the screen must be 1 to 16384 pixels each way";
 
 constexpr bool IsScreenSize(int width, int height) {

@@ -4,23 +4,12 @@
 #include <string>
 
 #include "platform/Simulation.h"
+#include "platform/windows/WithoutMessages.h"
 #include "platform/windows/files/FullPath.h"
 #include "platform/windows/files/HostPath.h"
 
 namespace korvane {
 namespace {
-
-// A damaged library is an answer to the caller and no message to the user.
-class WithoutMessages {
-  public:
-    WithoutMessages() { SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &before_); }
-    ~WithoutMessages() { SetThreadErrorMode(before_, nullptr); }
-    WithoutMessages(const WithoutMessages&) = delete;
-    WithoutMessages& operator=(const WithoutMessages&) = delete;
-
-  private:
-    DWORD before_ = 0;
-};
 
 bool HasExtension(const std::wstring& path) {
     const std::size_t name = path.find_last_of(L"\\/") + 1;

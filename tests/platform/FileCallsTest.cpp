@@ -122,7 +122,7 @@ TEST_F(FileCallsTest, OpensAFileThatIsOpen) {
     EXPECT_EQ(GetFileAttributesW(L"file"), INVALID_FILE_ATTRIBUTES);
 }
 
-TEST_F(FileCallsTest, RefusesPathsThatNoSystemCounts) {
+TEST_F(FileCallsTest, RefusesPathsLongerThanAnySystemTakes) {
     const std::wstring path = L"\\" + std::wstring(100000, L'x');
     EXPECT_FALSE(CreateDirectoryW(path.c_str(), nullptr));
     EXPECT_EQ(GetLastError(), ERROR_FILENAME_EXCED_RANGE);

@@ -3,8 +3,8 @@
 
 #include "tests/platform/TestWindow.h"
 
-// The time in this source is the system's own, so it asks for the order of messages and never for their
-// haste.
+// The clock here is the system's own: these tests wait, and hold in which order messages come and that none
+// comes early, never how soon one comes.
 namespace korvane {
 namespace {
 

@@ -86,8 +86,8 @@ KORVANE_API BOOL TranslateMessage(const MSG* message);
 /// Calls the window's procedure, or the TIMERPROC of a WM_TIMER whose timer still exists.
 KORVANE_API LRESULT DispatchMessageW(const MSG* message);
 
-/// Makes WM_QUIT appear in this thread's queue, with `exitCode` as wParam, once no posted
-/// message waits.
+/// Makes WM_QUIT appear in this thread's queue, with `exitCode` as wParam, once no posted message
+/// waits.
 KORVANE_API void PostQuitMessage(int exitCode);
 
 /// Appends to the queue of the window's thread and returns. A null window posts to the calling thread's own

@@ -6,6 +6,8 @@
 #include "platform/Unicode.h"
 #include "platform/display/ModuleDisplay.h"
 #include "platform/display/ModuleName.h"
+#include "platform/windows/WithoutMessages.h"
+#include "platform/windows/display/HiddenOwner.h"
 #include "platform/windows/display/Win32Display.h"
 #include "platform/windows/files/OwnFolder.h"
 
@@ -22,17 +24,11 @@ void RefuseMagnification() {
     const auto find = [user](const char* name) {
         return reinterpret_cast<void*>(GetProcAddress(user, name));
     };
-    if (const auto setContext = reinterpret_cast<SetContext>(find("SetProcessDpiAwarenessContext")))
-        setContext(kPerMonitor);
-    else if (const auto setAware = reinterpret_cast<SetAware>(find("SetProcessDPIAware")))
+    const auto setContext = reinterpret_cast<SetContext>(find("SetProcessDpiAwarenessContext"));
+    if (setContext && setContext(kPerMonitor))
+        return;
+    if (const auto setAware = reinterpret_cast<SetAware>(find("SetProcessDPIAware")))
         setAware();
-}
-
-// A program that was started with a double click gets a console for itself, whose end would be the program's.
-void LeaveOwnConsole() {
-    DWORD processes[2];
-    if (GetConsoleProcessList(processes, 2) == 1)
-        FreeConsole();
 }
 
 }  // namespace
@@ -40,7 +36,6 @@ void LeaveOwnConsole() {
 std::unique_ptr<Display> CreateSystemDisplay(const char* name) {
     if (std::string_view(name ? name : "") == DefaultDisplay()) {
         RefuseMagnification();
-        LeaveOwnConsole();
         return std::make_unique<Win32Display>();
     }
     if (name && IsDisplayModuleName(name))
@@ -51,6 +46,7 @@ std::unique_ptr<Display> CreateSystemDisplay(const char* name) {
 
 DisplayModuleEntry LoadDisplayModule(const char* name) {
     const std::wstring path = OwnFolder() + L"korvane-display-" + FromUtf8(name) + L".dll";
+    const WithoutMessages silence;
     const HMODULE module = LoadLibraryW(path.c_str());
     const FARPROC entry = module ? GetProcAddress(module, kDisplayModuleEntryName) : nullptr;
     if (!entry)
@@ -63,8 +59,7 @@ void HideOwner(HWND owner, int width, int height) {
     if (!owner)
         return;
     ShowWindow(owner, SW_HIDE);
-    SetWindowLongPtrW(owner, GWL_EXSTYLE,
-                      WS_EX_LAYERED | WS_EX_TRANSPARENT | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE);
+    SetWindowLongPtrW(owner, GWL_EXSTYLE, GetWindowLongPtrW(owner, GWL_EXSTYLE) | kHiddenStyle);
     SetLayeredWindowAttributes(owner, 0, 0, LWA_ALPHA);
     SetWindowPos(owner, HWND_BOTTOM, 0, 0, width, height, SWP_NOACTIVATE | SWP_NOMOVE | SWP_SHOWWINDOW);
 }

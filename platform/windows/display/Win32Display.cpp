@@ -4,6 +4,8 @@
 
 #include "platform/display/ScreenSize.h"
 #include "platform/windows/display/ActiveDisplay.h"
+#include "platform/windows/display/HiddenOwner.h"
+#include "platform/windows/display/OwnConsole.h"
 #include "platform/windows/display/Touch.h"
 
 namespace korvane {
@@ -56,6 +58,7 @@ bool Win32Display::Open(int width, int height, const wchar_t* title, HWND owner)
     ActivateDisplay(this, owner);
     ShowFramed(title);
     Blacken();
+    LeaveOwnConsole();
     return true;
 }
 
@@ -64,9 +67,10 @@ void Win32Display::ShowFramed(const wchar_t* title) {
     SetWindowTextW(owner_, title ? title : L"");
     SetWindowLongPtrW(owner_, GWL_STYLE, static_cast<LONG_PTR>(kStyle));
     // What has hidden it for a display without a panel goes.
-    SetWindowLongPtrW(owner_, GWL_EXSTYLE, 0);
+    const LONG_PTR extended = GetWindowLongPtrW(owner_, GWL_EXSTYLE) & ~kHiddenStyle;
+    SetWindowLongPtrW(owner_, GWL_EXSTYLE, extended);
     RECT frame{0, 0, width_, height_};
-    AdjustWindowRectEx(&frame, kStyle, FALSE, 0);
+    AdjustWindowRectEx(&frame, kStyle, FALSE, static_cast<DWORD>(extended));
     const int width = frame.right - frame.left;
     const int height = frame.bottom - frame.top;
     RECT room{};

@@ -26,8 +26,8 @@ std::wstring Resolve(std::wstring_view devicePath) {
     return path;
 }
 
-/// UTF-16 units of a path that the system keeps as a counted string, of which some versions count less than
-/// 65536 bytes without a look at what is left over.
+// In UTF-16 units. The system counts a path's bytes in 16 bits, and some versions cut a larger count off
+// instead of refusing the path.
 constexpr std::size_t kLongestOfAll = 32000;
 
 // The system takes longer paths only in this form, which it leaves as it is.

@@ -4,10 +4,11 @@
 
 namespace korvane {
 
+/// How long a file is waited for that somebody has open.
 constexpr ULONGLONG kInUseMs = 500;
 
 /// Calls `attempt` until it succeeds, or fails for another reason than that somebody has the file open, or
-/// half a second has passed. A reader or writer has it for a moment, and so have programs that look into
+/// kInUseMs have passed. A reader or writer has it for a moment, and so have programs that look into
 /// every file. The system may say "access denied" of such a file, as it does of one that is never to be had:
 /// `deniedMs` is how long that is believed to be passing. Returns whether it succeeded.
 template <class Attempt>

@@ -16,7 +16,8 @@ struct ThreadTimer {
     UINT_PTR systemId;  // as the system does
 };
 
-/// What one thread has besides the system's queue, which holds what is posted and what is invalid.
+/// What one thread has besides the system's queue, which holds what is posted, a request to quit and what is
+/// invalid.
 ///
 /// `stamps` and `input` are what other threads get at; they and the list of all queues are guarded by
 /// QueueMutex. All else belongs to the thread.

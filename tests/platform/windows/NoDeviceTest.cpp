@@ -7,6 +7,7 @@
 #include "platform/coredll.h"
 
 #include "tests/platform/EnvironmentVariable.h"
+#include "tools/hostfile/HostFolder.h"
 
 namespace korvane {
 namespace {
@@ -22,8 +23,7 @@ class NoDevice : public testing::Test {
     }
     ~NoDevice() override {
         fs::current_path(before_);
-        std::error_code ignored;
-        fs::remove_all(folder_, ignored);
+        tools::RemoveHostFolder(folder_);
     }
 
     const fs::path before_ = fs::current_path();
@@ -31,6 +31,11 @@ class NoDevice : public testing::Test {
         fs::temp_directory_path() / ("korvane test " + std::to_string(GetCurrentProcessId()));
     const EnvironmentVariable unchosen_{"KORVANE_DEVICE_ROOT", ""};
 };
+
+std::wstring SystemFolder() {
+    wchar_t folder[MAX_PATH];
+    return {folder, GetSystemDirectoryW(folder, MAX_PATH)};
+}
 
 TEST_F(NoDevice, LeavesPathsAsTheyAreGiven) {
     EXPECT_EQ(DeviceRoot(), "");
@@ -69,6 +74,24 @@ TEST_F(NoDevice, LoadsALibraryByAPathOfTheSystem) {
     ASSERT_NE(module, nullptr);
     EXPECT_NE(GetProcAddressW(module, L"LQ_GetAnswer"), nullptr);
     EXPECT_TRUE(FreeLibrary(module));
+}
+
+TEST_F(NoDevice, FindsFilesOfTheSystem) {
+    EXPECT_NE(GetFileAttributesW((SystemFolder() + L"\\kernel32.dll").c_str()), INVALID_FILE_ATTRIBUTES);
+    WIN32_FIND_DATAW found;
+    const HANDLE search = FindFirstFileW((SystemFolder() + L"\\kernel32.*").c_str(), &found);
+    EXPECT_NE(search, INVALID_HANDLE_VALUE);
+    FindClose(search);
+}
+
+TEST_F(NoDevice, LoadsALibraryOfTheSystemByItsBareName) {
+    for (const std::wstring& path : {SystemFolder() + L"\\version.dll", std::wstring(L"version.dll")}) {
+        const HMODULE module = LoadLibraryW(path.c_str());
+        ASSERT_NE(module, nullptr);
+        EXPECT_NE(GetProcAddressW(module, L"GetFileVersionInfoW"), nullptr);
+        EXPECT_TRUE(FreeLibrary(module));
+    }
+    EXPECT_EQ(LoadLibraryW(L"no such library.dll"), nullptr);
 }
 
 TEST_F(NoDevice, HasMediaThatArePluggedIn) {
