@@ -70,8 +70,8 @@ class KORVANEEX_API CLQMenuItemCtrl : public CLQBaseCtrl {
     void SetTextShaderSurf(const wchar_t* file);
     void SetTextPos(int x, int y);
     /// The caption as text, in place of the pictures; the tile owns it and deletes an earlier one. An element
-    /// of another tile becomes one of both. Null: none. An element that lies on a control of another kind
-    /// stays there, and nothing changes.
+    /// bound to another tile becomes one of both. Null: none. An element that has another father without
+    /// being bound to it stays there, and nothing changes.
     void BindTextElement(CLQTextElement* element);
 
     /// A veil over the picture, shown while it is enabled.
