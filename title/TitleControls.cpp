@@ -63,10 +63,10 @@ void CLQTitleDialog::FindTitleControls() {
     m_pIconTA = FindCtrlOfClass<CLQStatic>(title, L"IconTA");
     m_pIconTP = FindCtrlOfClass<CLQStatic>(title, L"IconTP");
     m_pSt24HR = FindCtrlOfClass<CLQStatic>(title, L"St24HR");
-    m_pGp12HR = FindCtrlOfClass<CLQGroupCtrl>(title, L"Gp12HR");
+    m_pGp12HR = title.FindCtrl(L"Gp12HR");
     m_pSt12HR = FindCtrlOfClass<CLQStatic>(title, L"St12HR");
-    m_pIconAM = FindCtrlOfClass<CLQStatic>(title, L"IconAM");
-    m_pIconPM = FindCtrlOfClass<CLQStatic>(title, L"IconPM");
+    m_pIconAM = title.FindCtrl(L"IconAM");
+    m_pIconPM = title.FindCtrl(L"IconPM");
 
     for (CLQButton* button : {m_pBtnTACancel.Get(), m_pBtnToFront.Get(), m_pBtnToRear.Get(),
                               m_pBtnGuide.Get(), m_pBtnBack.Get()}) {

@@ -168,11 +168,11 @@ class KORVANEEX_API CLQTitleDialog : public CLQWindow {
     korvane::Borrowed<CLQStatic> m_pIconAF;
     korvane::Borrowed<CLQStatic> m_pIconTA;
     korvane::Borrowed<CLQStatic> m_pIconTP;
-    korvane::Borrowed<CLQGroupCtrl> m_pGp12HR;
+    korvane::Borrowed<CLQBaseCtrl> m_pGp12HR;
     korvane::Borrowed<CLQStatic> m_pSt24HR;
     korvane::Borrowed<CLQStatic> m_pSt12HR;
-    korvane::Borrowed<CLQStatic> m_pIconAM;
-    korvane::Borrowed<CLQStatic> m_pIconPM;
+    korvane::Borrowed<CLQBaseCtrl> m_pIconAM;
+    korvane::Borrowed<CLQBaseCtrl> m_pIconPM;
     CLQTimer m_timerUpdateTime;
     std::wstring m_strTime;
     bool m_bBackBtnShow = false;

@@ -307,6 +307,18 @@ TEST_F(TitleClock, NeedsAllItsParts) {
     }
 }
 
+TEST_F(TitleClock, ShowsAndHidesIconsOfAnyClass) {
+    TitleLayout layout;
+    layout.kinds["IconAM"] = "image";
+    layout.kinds["IconPM"] = "button";
+    WriteTitleLayout(layout);
+    SetTime(17, 5);
+    Start();
+    EXPECT_EQ(Text12(), L"05:05");
+    EXPECT_FALSE(Find(L"IconAM")->IsShow());
+    EXPECT_TRUE(Find(L"IconPM")->IsShow());
+}
+
 TEST_F(TitleClock, StopsWhenTheApplicationDeletesAPart) {
     SetTime(10, 5);
     StartIn24Hours();
