@@ -64,6 +64,18 @@ std::wstring Quoted(const std::wstring& word) {
     return quoted + L'"';
 }
 
+/// Once in some thousand times Wine's loader ends before the program begins, and this is what it says then.
+bool Start(const std::wstring& program, std::wstring& line, STARTUPINFOW& start, PROCESS_INFORMATION& made) {
+    constexpr int kTries = 3;
+    bool starts = false;
+    SetLastError(ERROR_INTERNAL_ERROR);
+    for (int i = 0; i < kTries && !starts && GetLastError() == ERROR_INTERNAL_ERROR; ++i) {
+        starts = CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW,
+                                nullptr, nullptr, &start, &made) != 0;
+    }
+    return starts;
+}
+
 /// Calls `change` with each thread of the process.
 template <class Change>
 void ForEachThread(DWORD process, const Change& change) {
@@ -104,9 +116,8 @@ ChildProcess::ChildProcess(const std::vector<std::string>& command) : state_(new
     for (const std::string& word : command)
         line += (line.empty() ? L"" : L" ") + Quoted(FromUtf8(word));
     PROCESS_INFORMATION made = {};
-    if (!CreateProcessW(FromUtf8(command.front()).c_str(), line.data(), nullptr, nullptr, TRUE,
-                        CREATE_NO_WINDOW, nullptr, nullptr, &start, &made))
-        throw std::runtime_error(command.front() + " does not start");
+    if (!Start(FromUtf8(command.front()), line, start, made))
+        throw std::runtime_error(command.front() + " does not start: " + std::to_string(GetLastError()));
     CloseHandle(made.hThread);
     state_->process = Handle(made.hProcess);
     state_->id = made.dwProcessId;
