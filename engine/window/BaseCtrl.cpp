@@ -131,8 +131,10 @@ void CLQBaseCtrl::SetFatherWnd(CLQWindow* window) {
         return;
     if (m_bFocus) {
         const korvane::LifeWatch self = WatchLife();
+        const CLQWindow* const before = m_pOwnerWnd;
         SetFocus(false);
-        if (!self.IsAlive())
+        // Its handler may have ended it, or put it somewhere else.
+        if (!self.IsAlive() || m_pOwnerWnd != before)
             return;
     }
     if (m_pOwnerWnd) {
@@ -140,6 +142,7 @@ void CLQBaseCtrl::SetFatherWnd(CLQWindow* window) {
         m_pOwnerWnd->ForgetCtrl(this);
     }
     m_pOwnerWnd = window;
+    m_nPress = 0;
     if (window)
         window->m_placed.push_back(this);
     m_bNeedRedraw = true;
@@ -249,7 +252,10 @@ _LQRect CLQBaseCtrl::GetScreenRect() {
 }
 
 void CLQBaseCtrl::DropPress() {
+    if (m_nPress == 0)
+        return;
     m_nPress = 0;
+    Invalidate();
 }
 
 bool CLQBaseCtrl::IsNeedRedraw() {

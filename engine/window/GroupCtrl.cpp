@@ -34,8 +34,8 @@ void CLQGroupCtrl::AbandonChildren() {
     for (std::size_t i = 0; i < m_children.Size(); ++i) {
         CLQBaseCtrl* child = m_children.At(i);
         if (child && child->m_pOwnerGroup == this) {
-            child->SetFatherWnd(nullptr);
             child->m_pOwnerGroup = nullptr;
+            child->SetFatherWnd(nullptr);
         }
     }
     m_children.Clear();
@@ -82,7 +82,8 @@ void CLQGroupCtrl::SetShow(bool show) {
 
 void CLQGroupCtrl::LoadResource() {
     CLQBaseCtrl::LoadResource();
-    for (std::size_t i = 0; i < m_children.Size(); ++i) {
+    const korvane::LifeWatch self = WatchLife();
+    for (std::size_t i = 0; self.IsAlive() && i < m_children.Size(); ++i) {
         if (CLQBaseCtrl* child = m_children.At(i))
             child->LoadResource();
     }
@@ -98,12 +99,13 @@ bool CLQGroupCtrl::DoMessage(_LQMessage* msg) {
 void CLQGroupCtrl::Draw(CLQSurfHandle& target) {
     if (m_pOwnerWnd && !IsNeedRedraw())
         return;
+    const korvane::LifeWatch self = WatchLife();
     if (CLQSurface* surface = target.GetSurface()) {
         AdoptOrphans();
         m_background.Draw(target, GetScreenRect());
-        korvane::DrawChildren(m_children, target, *surface);
+        korvane::DrawChildren(m_children, target, *surface, self);
     }
-    if (m_pOwnerWnd)
+    if (self.IsAlive() && m_pOwnerWnd)
         Redraw(false);
 }
 
@@ -117,10 +119,13 @@ void CLQGroupCtrl::ChangeLanguage() {
 }
 
 void CLQGroupCtrl::SetFatherWnd(CLQWindow* window) {
+    const korvane::LifeWatch self = WatchLife();
     CLQBaseCtrl::SetFatherWnd(window);
+    if (!self.IsAlive())
+        return;
     m_captured = korvane::Capture();
     AdoptOrphans();
-    for (std::size_t i = 0; i < m_children.Size(); ++i) {
+    for (std::size_t i = 0; self.IsAlive() && i < m_children.Size(); ++i) {
         CLQBaseCtrl* child = m_children.At(i);
         if (child && child->m_pOwnerGroup == this)
             child->SetFatherWnd(window);
@@ -185,7 +190,11 @@ CLQBaseCtrl* CLQGroupCtrl::Clone() {
 void CLQGroupCtrl::AddChild(CLQBaseCtrl* child) {
     if (!child || m_children.Contains(child) || child->IsChildExist(this))
         return;
+    const korvane::LifeWatch self = WatchLife();
+    const korvane::LifeWatch added = child->WatchLife();
     child->LeaveOwner();
+    if (!self.IsAlive() || !added.IsAlive())
+        return;
     m_children.Compact();
     m_children.Add(child);
     child->m_pOwnerGroup = this;
@@ -194,11 +203,14 @@ void CLQGroupCtrl::AddChild(CLQBaseCtrl* child) {
 }
 
 bool CLQGroupCtrl::DelChild(CLQBaseCtrl* child, bool destroy) {
-    if (!m_children.Contains(child))
+    if (!m_children.Remove(child, false))
         return false;
-    child->SetFatherWnd(nullptr);
+    const korvane::LifeWatch removed = child->WatchLife();
     child->m_pOwnerGroup = nullptr;
-    return m_children.Remove(child, destroy);
+    child->SetFatherWnd(nullptr);
+    if (destroy && removed.IsAlive() && child->IsCreatedWithNew())
+        delete child;
+    return true;
 }
 
 void CLQGroupCtrl::SetBkgSurf(const wchar_t* file) {

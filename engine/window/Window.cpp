@@ -107,7 +107,8 @@ void CLQWindow::SetShow(bool show) {
 }
 
 void CLQWindow::LoadResource() {
-    for (std::size_t i = 0; i < m_children.Size(); ++i) {
+    const korvane::LifeWatch self = WatchLife();
+    for (std::size_t i = 0; self.IsAlive() && i < m_children.Size(); ++i) {
         if (CLQBaseCtrl* child = m_children.At(i))
             child->LoadResource();
     }
@@ -123,7 +124,7 @@ void CLQWindow::Draw(CLQSurfHandle& target) {
     AdoptOrphans();
     const korvane::DrawClip clip(*surface, area);
     FillBkgRect(target, area.left, area.top, area.right, area.bottom);
-    korvane::DrawChildren(m_children, target, *surface);
+    korvane::DrawChildren(m_children, target, *surface, WatchLife());
 }
 
 bool CLQWindow::DoCommand(_LQMessage*) {
@@ -153,7 +154,11 @@ void CLQWindow::OnBtnBackPressUp() {}
 void CLQWindow::AddChild(CLQBaseCtrl* child) {
     if (!child || m_children.Contains(child))
         return;
+    const korvane::LifeWatch self = WatchLife();
+    const korvane::LifeWatch added = child->WatchLife();
     child->LeaveOwner();
+    if (!self.IsAlive() || !added.IsAlive())
+        return;
     m_children.Compact();
     m_children.Add(child);
     child->SetFatherWnd(this);
@@ -161,10 +166,13 @@ void CLQWindow::AddChild(CLQBaseCtrl* child) {
 }
 
 bool CLQWindow::DelChild(CLQBaseCtrl* child, bool destroy) {
-    if (!m_children.Contains(child))
+    if (!m_children.Remove(child, false))
         return false;
+    const korvane::LifeWatch removed = child->WatchLife();
     child->SetFatherWnd(nullptr);
-    return m_children.Remove(child, destroy);
+    if (destroy && removed.IsAlive() && child->IsCreatedWithNew())
+        delete child;
+    return true;
 }
 
 int CLQWindow::GetChildCount() const {

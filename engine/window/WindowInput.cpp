@@ -73,7 +73,11 @@ bool CLQWindow::DoMessage(_LQMessage* msg) {
         case korvane::kMsgPress:
         case korvane::kMsgMove:
         case korvane::kMsgRelease:
-            return m_bRecvMsg && RoutePointer(*msg);
+            if (m_bRecvMsg)
+                return RoutePointer(*msg);
+            if (msg->code == korvane::kMsgRelease)
+                DropInput();
+            return false;
         case korvane::kMsgKeyDown:
         case korvane::kMsgKeyUp:
             return m_bEnabled && m_bRecvMsg && RouteKey(*msg);
@@ -92,16 +96,24 @@ bool CLQWindow::RoutePointer(const _LQMessage& msg) {
             return true;
         }
         if (CLQBaseCtrl* receiver = m_recvMsg.Get()) {
-            if (msg.code == korvane::kMsgRelease) {
-                m_recvMsg = korvane::Capture();
-                m_captured = korvane::Capture();
-            }
+            const korvane::Capture other = m_captured;
             _LQMessage copy = msg;
-            return receiver->DoMessage(&copy);
+            if (msg.code == korvane::kMsgMove)
+                return receiver->DoMessage(&copy);
+            m_recvMsg = korvane::Capture();
+            m_captured = korvane::Capture();
+            const bool consumed = receiver->DoMessage(&copy);
+            if (CLQBaseCtrl* ctrl = other.Get())
+                korvane::DropPress(*ctrl);
+            return consumed;
         }
+        if (!m_bEnabled && msg.code == korvane::kMsgRelease)
+            DropInput();
         return m_bEnabled && korvane::RouteToChildren(m_children, m_captured, msg, WatchLife());
     }
 
+    if (CLQBaseCtrl* holder = m_captured.Get())
+        korvane::DropPress(*holder);
     m_captured = korvane::Capture();
     m_bHoldsPress = false;
     if (!korvane::Contains(ScreenRect(), msg.x, msg.y))

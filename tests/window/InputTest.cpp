@@ -102,6 +102,66 @@ TEST_F(Input, DropsAPressWhenItsGroupIsDisabledOrItsWindowHiddenMeanwhile) {
     EXPECT_FALSE(inner.IsPressed());
 }
 
+TEST_F(Input, DropsAPressWhenItsWindowIsDisabledOrTurnsDeafMeanwhile) {
+    scene.Press(20, 20);
+    window.EnableWindow(false);
+    scene.Release(20, 20);
+    EXPECT_FALSE(left.IsPressed());
+    window.EnableWindow(true);
+    scene.Press(20, 20);
+    EXPECT_TRUE(left.IsPressed());
+    window.EnableRecvMsg(false);
+    scene.Release(20, 20);
+    EXPECT_FALSE(left.IsPressed());
+    EXPECT_EQ(left.releases, 0);
+}
+
+TEST_F(Input, DropsAPressWhenItsControlLeavesItsWindow) {
+    scene.Press(20, 20);
+    window.DelChild(&left, false);
+    scene.Release(20, 20);
+    window.AddChild(&left);
+    EXPECT_FALSE(left.IsPressed());
+
+    CLQGroupCtrl group;
+    group.AddChild(&left);
+    window.AddChild(&group);
+    scene.Press(20, 20);
+    group.DelChild(&left, false);
+    scene.Release(20, 20);
+    EXPECT_FALSE(left.IsPressed());
+    EXPECT_EQ(left.releases, 0);
+}
+
+TEST_F(Input, ShowsAControlWhosePressWasDroppedAsItIs) {
+    scene.Press(20, 20);
+    scene.Pump();
+    const int draws = left.draws;
+    left.EnableRecvMsg(false);
+    scene.Release(20, 20);
+    scene.Pump();
+    EXPECT_FALSE(left.IsPressed());
+    EXPECT_EQ(left.draws, draws + 1);
+}
+
+TEST_F(Input, DropsAPressWhenAnotherOneFollowsWithoutARelease) {
+    scene.Press(20, 20);
+    scene.Press(210, 20);
+    EXPECT_FALSE(left.IsPressed());
+    EXPECT_TRUE(right.IsPressed());
+    scene.Release(210, 20);
+    EXPECT_EQ(left.releases, 0);
+    EXPECT_EQ(right.releases, 1);
+}
+
+TEST_F(Input, DropsAPressWhenAReceiverIsNamedMeanwhile) {
+    scene.Press(20, 20);
+    window.SetRecvMsgCtrl(&right);
+    scene.Release(20, 20);
+    EXPECT_FALSE(left.IsPressed());
+    EXPECT_EQ(LastCode(right), korvane::kMsgRelease);
+}
+
 TEST_F(Input, LeavesOutAControlThatAnotherOneHasJustRemoved) {
     right.MoveTo(10, 10);
     right.onMessage = [this](const _LQMessage&) { window.DelChild(&left, false); };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "engine/Korvane.h"
@@ -41,6 +42,10 @@ class Probe : public CLQBaseCtrl {
         if (m_pOwnerWnd && !IsNeedRedraw())
             return;
         ++draws;
+        if (const auto handler = std::exchange(onDraw, nullptr)) {
+            handler();
+            return;
+        }
         int x;
         int y;
         GetScreenXY(x, y);
@@ -52,11 +57,17 @@ class Probe : public CLQBaseCtrl {
     }
 
     void OnFocus() override { ++focusGained; }
-    void OnLostFocus() override { ++focusLost; }
+    void OnLostFocus() override {
+        ++focusLost;
+        if (const auto handler = std::exchange(onLostFocus, nullptr))
+            handler();
+    }
     void ChangeLanguage() override { ++languageChanges; }
 
     std::vector<_LQMessage> messages;
     std::function<void(const _LQMessage&)> onMessage;
+    std::function<void()> onDraw;       ///< called once, in place of the painting
+    std::function<void()> onLostFocus;  ///< called once
     bool consumesOthers = false;
     unsigned char alpha = 255;
     int releases = 0;

@@ -72,9 +72,10 @@ void DropPresses(const ChildList& children) {
     }
 }
 
-void DrawChildren(const ChildList& children, CLQSurfHandle& target, CLQSurface& surface) {
+void DrawChildren(const ChildList& children, CLQSurfHandle& target, CLQSurface& surface,
+                  const LifeWatch& ownerLife) {
     const _LQRect area = surface.GetClip();
-    for (std::size_t i = 0; i < children.Size(); ++i) {
+    for (std::size_t i = 0; ownerLife.IsAlive() && i < children.Size(); ++i) {
         CLQBaseCtrl* child = children.At(i);
         if (!child || !child->IsShow())
             continue;

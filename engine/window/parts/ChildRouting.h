@@ -28,7 +28,9 @@ bool RouteToChildren(const ChildList& children, Capture& capture, const _LQMessa
 void DropPress(CLQBaseCtrl& ctrl);
 void DropPresses(const ChildList& children);
 
-/// Draws the shown children that lie inside the clip, each clipped to its own rectangle, in their order.
-void DrawChildren(const ChildList& children, CLQSurfHandle& target, CLQSurface& surface);
+/// Draws the shown children that lie inside the clip, each clipped to its own rectangle, in their order. A
+/// child's Draw may destroy any child, and the owner.
+void DrawChildren(const ChildList& children, CLQSurfHandle& target, CLQSurface& surface,
+                  const LifeWatch& ownerLife);
 
 }  // namespace korvane
